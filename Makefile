@@ -1,0 +1,53 @@
+# Front door of the project: `make demo` and `make test` on a fresh Debian 12.
+BUILD      ?= build
+BUILD_TYPE ?= Debug
+WERROR     ?= OFF
+JOBS       ?= $(shell nproc)
+CMAKE_ARGS ?=
+SCREENSHOT ?= $(abspath $(BUILD))/tessaro-demo.png
+
+.PHONY: all deps configure build demo test bench fuzz install clean
+
+all: build
+
+deps:
+	@scripts/install-deps.sh
+
+configure: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) \
+	      -DTESSARO_WARNINGS_AS_ERRORS=$(WERROR) $(CMAKE_ARGS)
+
+build: configure
+	cmake --build $(BUILD) -j $(JOBS)
+
+# With a display the demo opens its window; without one it renders a screenshot.
+demo: configure
+	cmake --build $(BUILD) -j $(JOBS) --target tessaro-demo
+	@if [ -n "$$DISPLAY" ] || [ -n "$$WAYLAND_DISPLAY" ]; then \
+	    $(BUILD)/apps/demo/tessaro-demo; \
+	else \
+	    xvfb-run -a -s "-screen 0 1600x1000x24" $(BUILD)/apps/demo/tessaro-demo --screenshot $(SCREENSHOT) && \
+	    echo "Screenshot: $(SCREENSHOT)"; \
+	fi
+
+test: build
+	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
+
+bench:
+	@scripts/install-deps.sh
+	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DTESSARO_BUILD_BENCH=ON \
+	      -DTESSARO_BUILD_TESTS=OFF -DTESSARO_BUILD_DEMO=OFF $(CMAKE_ARGS)
+	cmake --build build-bench -j $(JOBS)
+	scripts/run-benchmarks.sh build-bench
+
+fuzz:
+	@scripts/install-deps.sh --fuzz
+	cmake -S . -B build-fuzz -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+	      -DTESSARO_BUILD_FUZZ=ON -DTESSARO_BUILD_TESTS=OFF -DTESSARO_BUILD_DEMO=OFF $(CMAKE_ARGS)
+	cmake --build build-fuzz -j $(JOBS)
+
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+clean:
+	rm -rf $(BUILD) build-bench build-fuzz

@@ -1,0 +1,9 @@
+#include <tessaro/Tessaro.h>
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication app(argc, argv);
+    return 0;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "QtitanGlobal.h"
+#include "RibbonColors.h"
+
+#include <QProxyStyle>
+
+namespace Qtitan {
+
+/// Base of every ribbon style. It draws standard Qt elements through the
+/// Fusion style, tinted with the ribbon's colour scheme, and the ribbon's
+/// own elements, among them the MDI workspace background.
+class QTITAN_EXPORT CommonStyle : public QProxyStyle
+{
+    Q_OBJECT
+public:
+    /// The workspace (empty MDI area) background.
+    static constexpr int PE_Workspace = QStyle::PE_CustomBase + 0x16;
+
+    CommonStyle();
+    ~CommonStyle() override;
+
+    /// The colour scheme of the current theme.
+    virtual RibbonColors ribbonColors() const;
+
+    void polish(QPalette& palette) override;
+    void polish(QWidget* widget) override;
+    void unpolish(QWidget* widget) override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
+
+Q_SIGNALS:
+    /// Emitted after setTheme() of a subclass changed the colour scheme.
+    void themeChanged();
+
+protected:
+    /// Re-polishes the application's widgets after a theme change.
+    void updateTheme();
+};
+
+} // namespace Qtitan

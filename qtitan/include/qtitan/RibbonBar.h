@@ -1,0 +1,86 @@
+#pragma once
+
+#include "QtitanGlobal.h"
+
+#include <QIcon>
+#include <QList>
+#include <QMenuBar>
+
+namespace Qtitan {
+
+class RibbonPage;
+class RibbonQuickAccessBar;
+class RibbonSystemButton;
+
+/// The ribbon: a row of tabs, one per page, over the current page's groups,
+/// with the system button at the left of the tabs and the quick access bar
+/// above them (or beside the window title while the frame theme is on).
+class QTITAN_EXPORT RibbonBar : public QMenuBar
+{
+    Q_OBJECT
+    Q_PROPERTY(int currentPageIndex READ currentPageIndex WRITE setCurrentPageIndex NOTIFY currentPageIndexChanged)
+    Q_PROPERTY(bool minimized READ isMinimized WRITE setMinimized NOTIFY minimizationChanged)
+public:
+    explicit RibbonBar(QWidget* parent = nullptr);
+    ~RibbonBar() override;
+
+    RibbonPage* addPage(const QString& text);
+    void addPage(RibbonPage* page);
+    RibbonPage* insertPage(int index, const QString& text);
+    void insertPage(int index, RibbonPage* page);
+    void movePage(int from, int to);
+    void movePage(RibbonPage* page, int index);
+    /// Removes and deletes a page.
+    void removePage(int index);
+    void removePage(RibbonPage* page);
+    /// Takes a page off the ribbon without deleting it; the caller owns it.
+    void detachPage(RibbonPage* page);
+    void clearPages();
+
+    RibbonPage* page(int index) const;
+    int pageCount() const;
+    QList<RibbonPage*> pages() const;
+    int currentPageIndex() const;
+
+    QAction* addSystemButton(const QIcon& icon, const QString& text);
+    QAction* addSystemButton(const QString& text);
+    /// The system button, or null before addSystemButton(); its defaultAction()
+    /// carries the RibbonSystemMenu.
+    RibbonSystemButton* systemButton() const;
+
+    RibbonQuickAccessBar* quickAccessBar() const;
+
+    bool isFrameThemeEnabled() const;
+    /// While the page area is minimised only the tabs show.
+    bool isMinimized() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
+
+public Q_SLOTS:
+    void setCurrentPageIndex(int index);
+    void setFrameThemeEnabled(bool enabled = true);
+    void setMinimized(bool minimized);
+
+Q_SIGNALS:
+    void currentPageIndexChanged(int index);
+    void minimizationChanged(bool minimized);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    class Private;
+    Private* d;
+};
+
+} // namespace Qtitan

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "QtitanGlobal.h"
+
+#include <QObject>
+
+namespace Qtitan {
+
+class RibbonControl;
+
+/// How a control looks at one group size: its image size and whether its
+/// label shows. A control has one definition per group size.
+class QTITAN_EXPORT RibbonControlSizeDefinition : public QObject
+{
+    Q_OBJECT
+public:
+    /// The sizes a group takes as the ribbon narrows, largest first.
+    enum GroupSize { GroupLarge = 0, GroupMedium = 1, GroupSmall = 2, GroupPopup = 3 };
+    Q_ENUM(GroupSize)
+    enum ControlImageSize { ImageNone = 0, ImageLarge = 1, ImageSmall = 2 };
+    Q_ENUM(ControlImageSize)
+
+    RibbonControlSizeDefinition(RibbonControl* parent, GroupSize size);
+    ~RibbonControlSizeDefinition() override;
+
+    GroupSize groupSize() const;
+
+    ControlImageSize imageSize() const;
+    void setImageSize(ControlImageSize size);
+
+    bool isLabelVisible() const;
+    void setLabelVisible(bool visible);
+
+Q_SIGNALS:
+    /// The image size or label visibility changed; the group lays out again.
+    void changed();
+
+private:
+    GroupSize m_groupSize;
+    ControlImageSize m_imageSize = ImageLarge;
+    bool m_labelVisible = true;
+};
+
+} // namespace Qtitan
