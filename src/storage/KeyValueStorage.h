@@ -1,0 +1,49 @@
+#pragma once
+
+#include "TessaroGlobal.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+class QByteArray;
+class QIODevice;
+
+/// A small persistent dictionary from string keys to variant values.
+///
+/// Everything is read once, when the storage is created, from a file or from
+/// a caller's byte array, and written back once, when it is destroyed, and
+/// only if setValue() was called in between. The content is the QDataStream
+/// encoding of a QMap<QString, QVariant> (an entry count, then key/value
+/// pairs) with the stream defaults of the Qt 5 runtime. A missing, truncated
+/// or corrupt source gives an empty store; nothing is ever reported.
+///
+/// Not thread-safe. Two storages on the same file do not see each other; the
+/// one destroyed last wins.
+class TESSARO_EXPORT KeyValueStorage : QObject
+{
+public:
+    /// Loads the store from the file \a fileName (empty if it cannot be read).
+    /// The file is rewritten on destruction if a value was set.
+    KeyValueStorage(const QString& fileName, QObject* parent = nullptr);
+    /// Loads the store from \a data, which is overwritten on destruction if a
+    /// value was set: the array must outlive the storage.
+    KeyValueStorage(QByteArray& data, QObject* parent = nullptr);
+    /// Writes the store back if setValue() was called since it was loaded.
+    ~KeyValueStorage() override;
+
+    /// The value stored under \a key, or \a defaultValue when there is none.
+    QVariant value(const QString& key, const QVariant& defaultValue = QVariant()) const;
+    /// Stores \a value under \a key. The store is written back on destruction
+    /// even if the value was already there.
+    void setValue(const QString& key, const QVariant& value);
+
+private:
+    void readValues(QIODevice* device);
+    void writeValues(QIODevice* device);
+
+    QMap<QString, QVariant> m_values;
+    QIODevice* m_device;
+    bool m_modified = false;
+};
