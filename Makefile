@@ -6,7 +6,7 @@ JOBS       ?= $(shell nproc)
 CMAKE_ARGS ?=
 SCREENSHOT ?= $(abspath $(BUILD))/tessaro-demo.png
 
-.PHONY: all deps configure build demo test bench fuzz install clean
+.PHONY: all deps configure build demo test bench fuzz icons install clean
 
 all: build
 
@@ -46,8 +46,16 @@ fuzz:
 	      -DTESSARO_BUILD_FUZZ=ON -DTESSARO_BUILD_TESTS=OFF -DTESSARO_BUILD_DEMO=OFF $(CMAKE_ARGS)
 	cmake --build build-fuzz -j $(JOBS)
 
+# Redraws the committed icons in src/resources from their generator.
+icons: deps
+	cmake -S . -B build-icons -DCMAKE_BUILD_TYPE=Release -DTESSARO_BUILD_ICONGEN=ON \
+	      -DTESSARO_BUILD_TESTS=OFF -DTESSARO_BUILD_DEMO=OFF $(CMAKE_ARGS)
+	cmake --build build-icons -j $(JOBS) --target tessaro-icongen
+	build-icons/src/resources/icongen/tessaro-icongen src/resources --sheet build-icons/icons-sheet.png
+	@echo "Icons written to src/resources (enlarged sheet: build-icons/icons-sheet.png)"
+
 install: build
 	cmake --install $(BUILD) --prefix $(PREFIX)
 
 clean:
-	rm -rf $(BUILD) build-bench build-fuzz
+	rm -rf $(BUILD) build-bench build-fuzz build-icons

@@ -1,0 +1,343 @@
+// Draws the library's 32x32 icons. Run with the output folder as argument
+// (`make icons` does it for src/resources); `--sheet FILE` also writes a 4x
+// enlarged contact sheet for checking the pixels by eye.
+//
+// Axis-aligned edges sit on half-pixel coordinates and are stroked with a
+// 1 px pen, so outlines land on whole pixels and stay crisp at 32x32.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QTextStream>
+#include <QTransform>
+
+#include <functional>
+#include <vector>
+
+namespace {
+
+const QColor ink(0x3b, 0x47, 0x58);
+const QColor paper(0xff, 0xff, 0xff);
+const QColor paperShade(0xe9, 0xee, 0xf5);
+const QColor blue(0x2f, 0x6f, 0xd0);
+const QColor blueDark(0x1d, 0x4a, 0x94);
+const QColor blueLight(0xc9, 0xdc, 0xf8);
+const QColor green(0x2f, 0xa0, 0x50);
+const QColor greenDark(0x1c, 0x74, 0x37);
+const QColor red(0xd9, 0x45, 0x3b);
+const QColor redDark(0x9e, 0x2c, 0x25);
+const QColor orange(0xf0, 0x8c, 0x2e);
+const QColor teal(0x1f, 0xa3, 0xa0);
+const QColor grey(0x9a, 0xa5, 0xb4);
+
+// Rectangle whose edges fall on pixel centres: covers pixels x..x+w-1, y..y+h-1 when stroked.
+QRectF cell(int x, int y, int w, int h)
+{
+    return QRectF(x + 0.5, y + 0.5, w - 1, h - 1);
+}
+
+void outline(QPainter& p, const QPainterPath& path, const QColor& fill, const QColor& line)
+{
+    p.setPen(QPen(line, 1.0, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    p.setBrush(fill);
+    p.drawPath(path);
+}
+
+void box(QPainter& p, int x, int y, int w, int h, const QColor& fill, const QColor& line, qreal radius = 0)
+{
+    QPainterPath path;
+    if (radius > 0)
+        path.addRoundedRect(cell(x, y, w, h), radius, radius);
+    else
+        path.addRect(cell(x, y, w, h));
+    outline(p, path, fill, line);
+}
+
+void solid(QPainter& p, int x, int y, int w, int h, const QColor& fill)
+{
+    p.fillRect(QRect(x, y, w, h), fill);
+}
+
+// The shared "add" mark: a green disc with a white plus, bottom right.
+void addBadge(QPainter& p)
+{
+    p.setPen(Qt::NoPen);
+    p.setBrush(paper);
+    p.drawEllipse(QRectF(15, 15, 17, 17));
+    p.setPen(QPen(greenDark, 1.0));
+    p.setBrush(green);
+    p.drawEllipse(QRectF(16.5, 16.5, 14, 14));
+    solid(p, 22, 19, 3, 9, paper);
+    solid(p, 19, 22, 9, 3, paper);
+}
+
+QPainterPath plusPath(int centre, int arm, int half)
+{
+    // Cross of two bars, `half` pixels either side of the centre line.
+    QPainterPath v, h;
+    v.addRect(cell(centre - half, centre - arm, 2 * half, 2 * arm));
+    h.addRect(cell(centre - arm, centre - half, 2 * arm, 2 * half));
+    return v.united(h).simplified();
+}
+
+void drawPlus(QPainter& p)
+{
+    outline(p, plusPath(16, 13, 4), green, greenDark);
+    // A lighter top-left rim gives the flat glyph a little body.
+    p.setPen(QPen(QColor(0x6c, 0xc4, 0x85), 1.0));
+    p.drawLine(QPointF(13.5, 4.5), QPointF(18.5, 4.5));
+    p.drawLine(QPointF(4.5, 13.5), QPointF(4.5, 18.5));
+}
+
+void drawLogo(QPainter& p)
+{
+    // A 3x3 mosaic of tiles; the strong tiles spell a T, the rest stay faint.
+    const QColor strong[3][3] = {
+        {blue, teal, orange},
+        {QColor(), blueDark, QColor()},
+        {QColor(), blue, QColor()},
+    };
+    for (int row = 0; row < 3; ++row) {
+        for (int col = 0; col < 3; ++col) {
+            const int x = 2 + col * 10;
+            const int y = 2 + row * 10;
+            if (strong[row][col].isValid()) {
+                box(p, x, y, 8, 8, strong[row][col], strong[row][col].darker(135), 1.5);
+                p.setPen(QPen(QColor(255, 255, 255, 110), 1.0));
+                p.drawLine(QPointF(x + 1.5, y + 1.5), QPointF(x + 6.5, y + 1.5));
+            } else {
+                box(p, x, y, 8, 8, QColor(0xc9, 0xdc, 0xf8, 120), QColor(0x9d, 0xb8, 0xe0, 170), 1.5);
+            }
+        }
+    }
+}
+
+void drawAddPanel(QPainter& p)
+{
+    // A ribbon page: a tab on top, a body with two groups.
+    box(p, 4, 3, 11, 6, blue, blueDark);
+    box(p, 1, 8, 28, 20, paper, ink);
+    solid(p, 5, 8, 9, 1, blue);
+    solid(p, 2, 9, 26, 3, blueLight);
+    box(p, 4, 14, 10, 11, paperShade, grey);
+    box(p, 16, 14, 10, 11, paperShade, grey);
+    solid(p, 5, 22, 8, 2, grey);
+    solid(p, 17, 22, 8, 2, grey);
+    addBadge(p);
+}
+
+void drawAddGroup(QPainter& p)
+{
+    // A ribbon group: buttons above a caption bar.
+    box(p, 2, 3, 25, 24, paperShade, ink, 1.5);
+    box(p, 5, 6, 9, 11, blue, blueDark);
+    solid(p, 7, 9, 5, 1, paper);
+    solid(p, 7, 12, 5, 1, paper);
+    solid(p, 16, 7, 8, 2, grey);
+    solid(p, 16, 11, 8, 2, grey);
+    solid(p, 16, 15, 5, 2, grey);
+    solid(p, 3, 21, 23, 5, blueLight);
+    solid(p, 3, 20, 23, 1, QColor(0x9d, 0xb8, 0xe0));
+    solid(p, 9, 23, 11, 1, blueDark);
+    addBadge(p);
+}
+
+void drawAddCommand(QPainter& p)
+{
+    // An arrow carrying a command into a list, aimed at the highlighted row.
+    box(p, 13, 3, 17, 26, paper, ink);
+    for (int i = 0; i < 4; ++i) {
+        const int y = 7 + i * 5;
+        if (i == 2) {
+            solid(p, 14, y - 1, 15, 4, blueLight);
+            solid(p, 16, y, 11, 2, blue);
+        } else {
+            solid(p, 16, y, 11, 2, grey);
+        }
+    }
+    QPainterPath arrow;
+    arrow.moveTo(1.5, 15.5);
+    arrow.lineTo(10.5, 15.5);
+    arrow.lineTo(10.5, 11.5);
+    arrow.lineTo(18.5, 18.0);
+    arrow.lineTo(10.5, 24.5);
+    arrow.lineTo(10.5, 20.5);
+    arrow.lineTo(1.5, 20.5);
+    arrow.closeSubpath();
+    outline(p, arrow, green, greenDark);
+}
+
+void drawAddGroupAction(QPainter& p)
+{
+    // A split button with its drop-down menu open below it.
+    box(p, 1, 2, 30, 13, paper, ink, 1.5);
+    box(p, 4, 5, 7, 7, blue, blueDark);
+    solid(p, 13, 7, 7, 2, grey);
+    solid(p, 22, 3, 1, 11, grey);
+    QPolygonF arrow;
+    arrow << QPointF(24, 7) << QPointF(30, 7) << QPointF(27, 10.5);
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink);
+    p.drawPolygon(arrow);
+    box(p, 6, 15, 23, 15, paper, ink);
+    solid(p, 7, 15, 21, 1, paperShade);
+    solid(p, 9, 18, 3, 3, blue);
+    solid(p, 14, 19, 11, 1, ink);
+    solid(p, 7, 23, 21, 5, blueLight);
+    solid(p, 9, 24, 3, 3, orange);
+    solid(p, 14, 25, 11, 1, ink);
+}
+
+void drawAddSeparator(QPainter& p)
+{
+    // Two buttons parted by a separator line.
+    box(p, 2, 8, 10, 16, blueLight, blue, 1.5);
+    box(p, 20, 8, 10, 16, blueLight, blue, 1.5);
+    solid(p, 5, 12, 4, 4, blue);
+    solid(p, 23, 12, 4, 4, blue);
+    solid(p, 4, 19, 6, 2, blue);
+    solid(p, 22, 19, 6, 2, blue);
+    solid(p, 15, 3, 2, 26, ink);
+    solid(p, 13, 3, 6, 1, ink);
+    solid(p, 13, 28, 6, 1, ink);
+}
+
+QPainterPath upArrow()
+{
+    QPainterPath path;
+    path.moveTo(16.0, 2.5);
+    path.lineTo(28.5, 15.5);
+    path.lineTo(20.5, 15.5);
+    path.lineTo(20.5, 28.5);
+    path.lineTo(11.5, 28.5);
+    path.lineTo(11.5, 15.5);
+    path.lineTo(3.5, 15.5);
+    path.closeSubpath();
+    return path;
+}
+
+void drawUp(QPainter& p)
+{
+    outline(p, upArrow(), blue, blueDark);
+}
+
+void drawDown(QPainter& p)
+{
+    // The same arrow turned over the horizontal middle line, so both stay on the pixel grid.
+    const QTransform flip(1, 0, 0, -1, 0, 31);
+    outline(p, flip.map(upArrow()), blue, blueDark);
+}
+
+void drawRemove(QPainter& p)
+{
+    QPainterPath bar;
+    bar.addRoundedRect(QRectF(-13, -3.5, 26, 7), 2, 2);
+    QTransform a;
+    a.translate(16, 16);
+    a.rotate(45);
+    QTransform b;
+    b.translate(16, 16);
+    b.rotate(-45);
+    const QPainterPath cross = a.map(bar).united(b.map(bar)).simplified();
+    outline(p, cross, red, redDark);
+}
+
+struct Icon
+{
+    const char* file;
+    std::function<void(QPainter&)> draw;
+};
+
+QImage render(const Icon& icon)
+{
+    QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing, true);
+    icon.draw(p);
+    p.end();
+    return image.convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage sheet(const std::vector<QImage>& images)
+{
+    const int scale = 4;
+    const int cellSize = 32 * scale + 8;
+    QImage out(cellSize * int(images.size()), cellSize * 2 + 96, QImage::Format_ARGB32);
+    out.fill(QColor(0xf4, 0xf4, 0xf4));
+    QPainter p(&out);
+    // A strip at real size first, then each icon enlarged.
+    for (size_t i = 0; i < images.size(); ++i) {
+        p.drawImage(8 + int(i) * 40, 8, images[i]);
+    }
+    p.fillRect(0, out.height() - 48, out.width(), 48, QColor(0x2b, 0x57, 0x9a));
+    for (size_t i = 0; i < images.size(); ++i)
+        p.drawImage(8 + int(i) * 40, out.height() - 40, images[i]);
+    p.translate(0, 48);
+    for (size_t i = 0; i < images.size(); ++i) {
+        const QImage big = images[i].scaled(32 * scale, 32 * scale, Qt::IgnoreAspectRatio, Qt::FastTransformation);
+        const int x = int(i) * cellSize + 4;
+        // Top row on white, bottom row on a ribbon-like dark background.
+        p.fillRect(x, 4, 32 * scale, 32 * scale, Qt::white);
+        p.drawImage(x, 4, big);
+        p.fillRect(x, cellSize + 4, 32 * scale, 32 * scale, QColor(0x2b, 0x57, 0x9a));
+        p.drawImage(x, cellSize + 4, big);
+    }
+    return out;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication app(argc, argv);
+    QStringList args = app.arguments().mid(1);
+    QString sheetFile;
+    const int sheetAt = args.indexOf(QStringLiteral("--sheet"));
+    if (sheetAt >= 0 && sheetAt + 1 < args.size()) {
+        sheetFile = args.at(sheetAt + 1);
+        args.erase(args.begin() + sheetAt, args.begin() + sheetAt + 2);
+    }
+    QTextStream err(stderr);
+    if (args.size() != 1) {
+        err << "usage: tessaro-icongen OUTPUT_DIR [--sheet FILE]\n";
+        return 2;
+    }
+    const QDir dir(args.first());
+    if (!dir.exists() && !QDir().mkpath(dir.path())) {
+        err << "cannot create " << dir.path() << "\n";
+        return 1;
+    }
+
+    const std::vector<Icon> icons = {
+        {"plus.png", drawPlus},
+        {"logo.png", drawLogo},
+        {"add-panel2.png", drawAddPanel},
+        {"add-group.png", drawAddGroup},
+        {"go-top-icone-5674-32.png", drawAddCommand},
+        {"add-group-action.png", drawAddGroupAction},
+        {"add-separator.png", drawAddSeparator},
+        {"1uparrow.png", drawUp},
+        {"1downarrow.png", drawDown},
+        {"1remove.png", drawRemove},
+    };
+
+    std::vector<QImage> images;
+    for (const Icon& icon : icons) {
+        const QImage image = render(icon);
+        const QString path = dir.filePath(QString::fromLatin1(icon.file));
+        if (!image.save(path, "PNG")) {
+            err << "cannot write " << path << "\n";
+            return 1;
+        }
+        images.push_back(image);
+    }
+    if (!sheetFile.isEmpty() && !sheet(images).save(sheetFile, "PNG")) {
+        err << "cannot write " << sheetFile << "\n";
+        return 1;
+    }
+    return 0;
+}
