@@ -1,0 +1,63 @@
+#pragma once
+
+#include "TessaroGlobal.h"
+
+#include <QLineEdit>
+#include <QList>
+#include <QPointer>
+
+class QAction;
+class QMenu;
+class QMouseEvent;
+
+namespace ui {
+
+/// A one-line command finder.
+///
+/// The user types a few words; a popup menu above the box lists every command
+/// of the source whose menu path holds all of them, best matches first, and
+/// choosing an entry triggers the command's real action. Ctrl+Q anywhere in the
+/// box's window moves the focus into the box.
+///
+/// For every searchable command the widget makes a proxy action that is a child
+/// of the real action, so an entry disappears by itself when its command dies.
+class TESSARO_EXPORT QuickSearchWidget : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    /// Creates the box with its (hidden) result popup and the Ctrl+Q shortcut.
+    explicit QuickSearchWidget(QWidget* parent = nullptr);
+    /// Releases the entry list; the proxy actions stay with their real actions.
+    ~QuickSearchWidget() override;
+
+    /// Replaces the searchable commands by the given actions and, recursively,
+    /// the actions of their submenus. Separators, actions without text and the
+    /// submenu actions themselves become no entries. Proxies made by an earlier
+    /// call are deleted (later, through the event loop).
+    void setSource(const QList<QAction*>& actions);
+
+    /// The line edit's size hint, 150 pixels wide.
+    QSize sizeHint() const override;
+
+    /// Keeps typing going while the result popup is open: keys other than
+    /// Return, Enter, Up and Down pressed on the popup are handed to the box
+    /// first. Never swallows an event.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    /// A left-button press shows the results for the current text first.
+    void mousePressEvent(QMouseEvent* event) override;
+
+private Q_SLOTS:
+    void showResultPopup();
+    void startEdit();
+
+private:
+    void setSourceImpl(const QList<QAction*>& actions, const QString& prefix);
+
+    QList<QPointer<QAction>> m_entries;
+    QMenu* m_popup;
+};
+
+} // namespace ui

@@ -1,0 +1,730 @@
+#include "QuickSearch.h"
+
+#include "searchsource.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QStyle>
+#include <QTranslator>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using ui::QuickSearchWidget;
+
+namespace {
+
+// Records the keys the box receives and the reason it last got the focus.
+class RecordingSearch : public QuickSearchWidget
+{
+public:
+    using QuickSearchWidget::QuickSearchWidget;
+
+    QList<int> keys;
+    Qt::FocusReason focusReason = Qt::OtherFocusReason;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        keys.append(event->key());
+        QuickSearchWidget::keyPressEvent(event);
+    }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        focusReason = event->reason();
+        QuickSearchWidget::focusInEvent(event);
+    }
+};
+
+// Answers every text of one translation context with a marker.
+class ContextTranslator : public QTranslator
+{
+public:
+    explicit ContextTranslator(const char* context) : m_context(context) {}
+
+    QString translate(const char* context, const char* sourceText, const char*, int) const override
+    {
+        if (qstrcmp(context, m_context) == 0)
+            return QStringLiteral("[%1]").arg(QString::fromUtf8(sourceText));
+        return QString();
+    }
+
+    bool isEmpty() const override { return false; }
+
+private:
+    const char* m_context;
+};
+
+QMenu* popupOf(QuickSearchWidget& box)
+{
+    return box.findChild<QMenu*>();
+}
+
+QStringList popupTexts(QuickSearchWidget& box)
+{
+    QStringList texts;
+    for (QAction* action : popupOf(box)->actions())
+        texts << action->text();
+    return texts;
+}
+
+// Types the query the way a user does, one key at a time into an empty box.
+void type(QuickSearchWidget& box, const QString& query)
+{
+    popupOf(box)->close();
+    box.clear();
+    QTest::keyClicks(&box, query);
+}
+
+QAction* popupAction(QuickSearchWidget& box, const QString& text)
+{
+    for (QAction* action : popupOf(box)->actions()) {
+        if (action->text() == text)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_QuickSearch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void placeholderText();
+    void placeholderTranslatedInFileContext();
+    void sizeHintAndPolicy();
+
+    void pathTexts();
+    void ampersandsRemovedAndPercentSignsKept();
+    void separatorsEmptyTextsAndSubmenus();
+    void proxiesBelongToRealActions();
+
+    void firstWordNeedsThreeCharacters_data();
+    void firstWordNeedsThreeCharacters();
+    void ranksOfOpen_data();
+    void ranksOfOpen();
+    void wordOnlyInMiddleMenuGivesRankOne();
+    void rankOrderAndSourceOrder_data();
+    void rankOrderAndSourceOrder();
+    void everyWordRequired();
+    void noMatchShowsNothing();
+
+    void liveStateCopied();
+    void deletedRealActionDropsItsEntry();
+    void setSourceReplacesEntries();
+    void destroyingBoxKeepsProxies();
+
+    void choosingEntryTriggersRealAction();
+    void typingOnPopupContinues();
+    void navigationKeysStayWithPopup();
+    void escapeReachesBoxAndMenu();
+    void leftClickShowsResults();
+    void popupStandsAboveBox();
+    void ctrlQFocusesBox();
+};
+
+void tst_QuickSearch::cleanup()
+{
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
+void tst_QuickSearch::placeholderText()
+{
+    QuickSearchWidget box(nullptr);
+    QCOMPARE(box.placeholderText(), QStringLiteral("Поиск: Команда (Ctrl + Q)"));
+}
+
+void tst_QuickSearch::placeholderTranslatedInFileContext()
+{
+    ContextTranslator translator("QuickSearch.cpp");
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    QuickSearchWidget box(nullptr);
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(box.placeholderText(), QStringLiteral("[Поиск: Команда (Ctrl + Q)]"));
+}
+
+void tst_QuickSearch::sizeHintAndPolicy()
+{
+    QuickSearchWidget box(nullptr);
+    QLineEdit plain;
+    QCOMPARE(box.sizeHint().width(), 150);
+    QCOMPARE(box.sizeHint().height(), plain.sizeHint().height());
+    QCOMPARE(box.sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(box.sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+
+    QWidget window;
+    auto* layout = new QHBoxLayout(&window);
+    auto* inLayout = new QuickSearchWidget(&window);
+    layout->addWidget(inLayout);
+    window.resize(600, 100);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(inLayout->width(), 150);
+}
+
+void tst_QuickSearch::pathTexts()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Recent/Report", "Print"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "ope");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("File \u2192 Open")});
+    type(box, "report");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("File \u2192 Recent \u2192 Report")});
+    type(box, "print");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("Print")});
+}
+
+void tst_QuickSearch::ampersandsRemovedAndPercentSignsKept()
+{
+    SearchSource source;
+    source.addAll({"&File/&Open", "Save 50%/Rate %1 && %2", "R&&D/Plan"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("File \u2192 Open")});
+    type(box, "rate");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("Save 50% \u2192 Rate %1  %2")});
+    type(box, "plan");
+    QCOMPARE(popupTexts(box), QStringList{QStringLiteral("RD \u2192 Plan")});
+    // A typed "&" finds nothing: it is gone from every text.
+    type(box, "pla &");
+    QVERIFY(!popupOf(box)->isVisible());
+}
+
+void tst_QuickSearch::separatorsEmptyTextsAndSubmenus()
+{
+    SearchSource source;
+    source.addAll({"Edit/Undo item", "Edit/Recent items/First item"});
+    QMenu* edit = source.menu("Edit");
+    edit->addSeparator();
+    QAction* noText = edit->addAction(QIcon(), QString());
+    noText->setIcon(QApplication::style()->standardIcon(QStyle::SP_FileIcon));
+    edit->addMenu(QStringLiteral("Empty item menu"));
+    QList<QAction*> top = source.actions();
+    auto* topSeparator = new QAction(source.owner());
+    topSeparator->setSeparator(true);
+    topSeparator->setText(QStringLiteral("Separator item"));
+    top.prepend(topSeparator);
+    auto* topEmpty = new QAction(source.owner());
+    top.append(topEmpty);
+    source.add("Last item");
+    top.append(source.command("Last item"));
+
+    QuickSearchWidget box(nullptr);
+    box.setSource(top);
+    type(box, "ite");
+    QCOMPARE(popupTexts(box),
+             shown(QStringList{"Edit/Undo item", "Edit/Recent items/First item", "Last item"}));
+    for (QAction* action : popupOf(box)->actions())
+        QVERIFY(!action->isSeparator());
+
+    // Neither the separators nor the empty actions nor the submenu actions got proxies.
+    QVERIFY(topSeparator->findChildren<QAction*>().isEmpty());
+    QVERIFY(topEmpty->findChildren<QAction*>().isEmpty());
+    QVERIFY(noText->findChildren<QAction*>().isEmpty());
+    QVERIFY(source.menu("Edit")->menuAction()->findChildren<QAction*>().isEmpty());
+    QVERIFY(source.menu("Edit/Recent items")->menuAction()->findChildren<QAction*>().isEmpty());
+}
+
+void tst_QuickSearch::proxiesBelongToRealActions()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    QAction* wrap = source.add("View/Word wrap");
+    open->setIcon(QApplication::style()->standardIcon(QStyle::SP_DialogOpenButton));
+    wrap->setCheckable(true);
+
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    const QList<QAction*> openProxies = open->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(openProxies.size(), 1);
+    QAction* proxy = openProxies.first();
+    QCOMPARE(proxy->text(), QStringLiteral("File \u2192 Open"));
+    QCOMPARE(proxy->icon().cacheKey(), open->icon().cacheKey());
+    QVERIFY(!proxy->isCheckable());
+
+    const QList<QAction*> wrapProxies = wrap->findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(wrapProxies.size(), 1);
+    QVERIFY(wrapProxies.first()->isCheckable());
+
+    QSignalSpy triggered(open, &QAction::triggered);
+    proxy->trigger();
+    QCOMPARE(triggered.count(), 1);
+
+    type(box, "open");
+    QCOMPARE(popupOf(box)->actions(), QList<QAction*>{proxy});
+}
+
+void tst_QuickSearch::firstWordNeedsThreeCharacters_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QStringList>("expected");
+
+    QTest::newRow("ab") << "ab" << QStringList();
+    QTest::newRow("abc") << "abc" << shown(QStringList{"Edit/Abc tool"});
+    QTest::newRow("ab cde") << "ab cde" << QStringList();
+    QTest::newRow("cde ab") << "cde ab" << shown(QStringList{"Edit/Cde ab"});
+    QTest::newRow("blanks before ab") << "   ab" << QStringList();
+    QTest::newRow("blanks around abc") << "  abc   " << shown(QStringList{"Edit/Abc tool"});
+    QTest::newRow("only blanks") << "     " << QStringList();
+}
+
+void tst_QuickSearch::firstWordNeedsThreeCharacters()
+{
+    QFETCH(QString, query);
+    QFETCH(QStringList, expected);
+
+    SearchSource source;
+    source.addAll({"Edit/Abc tool", "Edit/Cde ab", "Edit/Cde"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, query);
+    QCOMPARE(box.text(), query);
+    QCOMPARE(popupTexts(box), expected);
+    QCOMPARE(popupOf(box)->isVisible(), !expected.isEmpty());
+}
+
+// The rank of "File/Open" for a word shows in where it lands among four
+// commands whose ranks for that word are 3, 2, 1 and 0: within a rank the
+// earlier source entry comes first, and "File/Open" is the first one.
+void tst_QuickSearch::ranksOfOpen_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QStringList>("others"); // ranks 3, 2, 1, 0
+    QTest::addColumn<int>("rank");
+
+    QTest::newRow("ope") << "ope"
+                         << QStringList{"Tools/Operate", "Tools/Scope", "Tools/Operations/Run", "Operations/Run"}
+                         << 3;
+    QTest::newRow("pen") << "pen"
+                         << QStringList{"Tools/Pencil", "Tools/Append", "Tools/Pending/Run", "Pending/Run"}
+                         << 2;
+    QTest::newRow("fil") << "fil"
+                         << QStringList{"Tools/Filter", "Tools/Profile", "Tools/Files/Run", "Filters/Run"}
+                         << 0;
+    QTest::newRow("OPE upper case") << "OPE"
+                                    << QStringList{"Tools/Operate", "Tools/Scope", "Tools/Operations/Run",
+                                                   "Operations/Run"}
+                                    << 3;
+}
+
+void tst_QuickSearch::ranksOfOpen()
+{
+    QFETCH(QString, word);
+    QFETCH(QStringList, others);
+    QFETCH(int, rank);
+
+    SearchSource source;
+    source.add("File/Open");
+    source.addAll(others);
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    QStringList expected = shown(others);
+    expected.insert(3 - rank, shown(QStringLiteral("File/Open")));
+    type(box, word);
+    QCOMPARE(popupTexts(box), expected);
+}
+
+void tst_QuickSearch::wordOnlyInMiddleMenuGivesRankOne()
+{
+    SearchSource source;
+    source.addAll({"File/Export/As picture", "Insert/Picture", "Picture tools/Crop", "File/Picture library/Open",
+                   "Format/Picture"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "pic");
+    QCOMPARE(popupTexts(box),
+             shown(QStringList{"Insert/Picture", "Format/Picture", "File/Export/As picture",
+                               "File/Picture library/Open", "Picture tools/Crop"}));
+}
+
+void tst_QuickSearch::rankOrderAndSourceOrder_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QStringList>("expected");
+
+    // Ranks for "pen": Open 2, Pending/Close 1, Pen Tools/Filter 0, Open File 2, Pentagon 3.
+    QTest::newRow("one word, all ranks")
+        << "pen"
+        << shown(QStringList{"Help/Pentagon", "File/Open", "Tools/Open File", "File/Pending/Close",
+                             "Pen Tools/Filter"});
+    QTest::newRow("two words, ranks never fall")
+        << "pen fil"
+        << shown(QStringList{"Pen Tools/Filter", "File/Open", "Tools/Open File", "File/Pending/Close"});
+    QTest::newRow("two words, other order")
+        << "fil pen"
+        << shown(QStringList{"Pen Tools/Filter", "File/Open", "Tools/Open File", "File/Pending/Close"});
+    QTest::newRow("later word raises the rank") << "pen clo" << shown(QStringList{"File/Pending/Close"});
+    QTest::newRow("case-insensitive")
+        << "PEN"
+        << shown(QStringList{"Help/Pentagon", "File/Open", "Tools/Open File", "File/Pending/Close",
+                             "Pen Tools/Filter"});
+}
+
+void tst_QuickSearch::rankOrderAndSourceOrder()
+{
+    QFETCH(QString, query);
+    QFETCH(QStringList, expected);
+
+    SearchSource source;
+    source.addAll({"File/Open", "File/Pending/Close", "Pen Tools/Filter", "Tools/Open File", "Help/Pentagon"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, query);
+    QCOMPARE(popupTexts(box), expected);
+}
+
+void tst_QuickSearch::everyWordRequired()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent", "Edit/Open link"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open rec");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open recent"}));
+    type(box, "open file");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "File/Open recent"}));
+    type(box, "open zzz");
+    QVERIFY(popupTexts(box).isEmpty());
+    QVERIFY(!popupOf(box)->isVisible());
+}
+
+void tst_QuickSearch::noMatchShowsNothing()
+{
+    SearchSource source;
+    source.addAll({"File/Open"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open");
+    QVERIFY(popupOf(box)->isVisible());
+    QTest::keyClick(&box, 'x');
+    QCOMPARE(box.text(), QStringLiteral("openx"));
+    QVERIFY(!popupOf(box)->isVisible());
+    QVERIFY(popupTexts(box).isEmpty());
+
+    QuickSearchWidget empty(nullptr);
+    type(empty, "open");
+    QVERIFY(!popupOf(empty)->isVisible());
+}
+
+void tst_QuickSearch::liveStateCopied()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    QAction* wrap = source.add("View/Word wrap");
+    QAction* ruler = source.add("View/Ruler");
+    wrap->setCheckable(true);
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    open->setEnabled(false);
+    wrap->setChecked(true);
+    // Made checkable after the entries were built, as the registry does on its first refresh.
+    ruler->setCheckable(true);
+    ruler->setChecked(true);
+
+    type(box, "ope");
+    QVERIFY(!popupAction(box, shown("File/Open"))->isEnabled());
+    type(box, "view");
+    QAction* wrapEntry = popupAction(box, shown("View/Word wrap"));
+    QAction* rulerEntry = popupAction(box, shown("View/Ruler"));
+    QVERIFY(wrapEntry->isCheckable());
+    QVERIFY(wrapEntry->isChecked());
+    QVERIFY(rulerEntry->isCheckable());
+    QVERIFY(rulerEntry->isChecked());
+
+    open->setEnabled(true);
+    wrap->setChecked(false);
+    type(box, "ope");
+    QVERIFY(popupAction(box, shown("File/Open"))->isEnabled());
+    type(box, "view");
+    QVERIFY(!popupAction(box, shown("View/Word wrap"))->isChecked());
+}
+
+void tst_QuickSearch::deletedRealActionDropsItsEntry()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent", "Edit/Open link"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open");
+    QCOMPARE(popupTexts(box).size(), 3);
+    popupOf(box)->close();
+
+    delete source.command("File/Open recent");
+    type(box, "open");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "Edit/Open link"}));
+
+    // A whole menu going away takes its commands' entries along.
+    delete source.menu("Edit");
+    type(box, "open");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open"}));
+}
+
+void tst_QuickSearch::setSourceReplacesEntries()
+{
+    SearchSource first;
+    QAction* open = first.add("File/Open");
+    SearchSource second;
+    second.addAll({"Edit/Copy", "Edit/Open link"});
+
+    QuickSearchWidget box(nullptr);
+    box.setSource(first.actions());
+    QPointer<QAction> oldProxy = open->findChild<QAction*>();
+    QVERIFY(oldProxy);
+
+    type(box, "open");
+    QVERIFY(popupOf(box)->isVisible());
+    box.setSource(second.actions());
+    QVERIFY(!popupOf(box)->isVisible());
+    QVERIFY(popupOf(box)->actions().isEmpty());
+
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(oldProxy.isNull());
+    QVERIFY(open->findChildren<QAction*>().isEmpty());
+
+    type(box, "open");
+    QCOMPARE(popupTexts(box), shown(QStringList{"Edit/Open link"}));
+
+    // Handing the same actions again makes fresh entries, not doubled ones.
+    box.setSource(second.actions());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    type(box, "open");
+    QCOMPARE(popupTexts(box), shown(QStringList{"Edit/Open link"}));
+    QCOMPARE(second.command("Edit/Open link")->findChildren<QAction*>().size(), 1);
+
+    box.setSource({});
+    type(box, "open");
+    QVERIFY(!popupOf(box)->isVisible());
+}
+
+void tst_QuickSearch::destroyingBoxKeepsProxies()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    auto* box = new QuickSearchWidget(nullptr);
+    box->setSource(source.actions());
+    delete box;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(open->findChildren<QAction*>().size(), 1);
+}
+
+void tst_QuickSearch::choosingEntryTriggersRealAction()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    source.add("File/Open recent");
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+    QSignalSpy triggered(open, &QAction::triggered);
+
+    type(box, "open");
+    QMenu* popup = popupOf(box);
+    QVERIFY(popup->isVisible());
+    QTest::keyClick(popup, Qt::Key_Down);
+    QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open")));
+    QTest::keyClick(popup, Qt::Key_Return);
+    QCOMPARE(triggered.count(), 1);
+    QVERIFY(!popup->isVisible());
+
+    // A click on an entry does the same.
+    type(box, "open");
+    QAction* entry = popupAction(box, shown(QStringLiteral("File/Open")));
+    QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(entry).center());
+    QCOMPARE(triggered.count(), 2);
+}
+
+void tst_QuickSearch::typingOnPopupContinues()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent", "Edit/Open link", "Edit/Operate"});
+    RecordingSearch box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "ope");
+    QMenu* popup = popupOf(box);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popupTexts(box).size(), 4);
+
+    box.keys.clear();
+    QTest::keyClick(popup, 'n');
+    QCOMPARE(box.keys, QList<int>{Qt::Key_N});
+    QCOMPARE(box.text(), QStringLiteral("open"));
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "File/Open recent", "Edit/Open link"}));
+
+    QTest::keyClicks(popup, " li");
+    QCOMPARE(box.text(), QStringLiteral("open li"));
+    QCOMPARE(popupTexts(box), shown(QStringList{"Edit/Open link"}));
+
+    QTest::keyClick(popup, Qt::Key_Backspace);
+    QTest::keyClick(popup, Qt::Key_Backspace);
+    QCOMPARE(box.text(), QStringLiteral("open "));
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "File/Open recent", "Edit/Open link"}));
+}
+
+void tst_QuickSearch::navigationKeysStayWithPopup()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent"});
+    RecordingSearch box(nullptr);
+    box.setSource(source.actions());
+    QSignalSpy returnPressed(&box, &QLineEdit::returnPressed);
+    QSignalSpy edited(&box, &QLineEdit::textEdited);
+
+    type(box, "open");
+    QMenu* popup = popupOf(box);
+    box.keys.clear();
+    edited.clear();
+
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, Qt::Key_Up);
+    QCOMPARE(box.keys, QList<int>());
+    QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open")));
+
+    QTest::keyClick(popup, Qt::Key_Enter);
+    QTest::keyClick(popup, Qt::Key_Return);
+    QCOMPARE(box.keys, QList<int>());
+    QCOMPARE(returnPressed.count(), 0);
+    QCOMPARE(edited.count(), 0);
+    QCOMPARE(box.text(), QStringLiteral("open"));
+}
+
+void tst_QuickSearch::escapeReachesBoxAndMenu()
+{
+    SearchSource source;
+    source.add("File/Open");
+    RecordingSearch box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open");
+    QMenu* popup = popupOf(box);
+    QVERIFY(popup->isVisible());
+    box.keys.clear();
+    QTest::keyClick(popup, Qt::Key_Escape);
+    QCOMPARE(box.keys, QList<int>{Qt::Key_Escape});
+    QVERIFY(!popup->isVisible());
+}
+
+void tst_QuickSearch::leftClickShowsResults()
+{
+    SearchSource source;
+    source.add("File/Open");
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+    box.resize(box.sizeHint());
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+
+    box.setText(QStringLiteral("open"));
+    QMenu* popup = popupOf(box);
+    QVERIFY(!popup->isVisible());
+
+    QTest::mouseClick(&box, Qt::MiddleButton, {}, QPoint(5, 5));
+    QVERIFY(!popup->isVisible());
+    QTest::mouseClick(&box, Qt::RightButton, {}, QPoint(5, 5));
+    QVERIFY(!popup->isVisible());
+
+    QTest::mousePress(&box, Qt::LeftButton, {}, QPoint(5, 5));
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open"}));
+    popup->close();
+
+    box.setText(QStringLiteral("op"));
+    QTest::mousePress(&box, Qt::LeftButton, {}, QPoint(5, 5));
+    QVERIFY(!popup->isVisible());
+}
+
+void tst_QuickSearch::popupStandsAboveBox()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    QVERIFY2(screen.height() >= 400, qPrintable(QStringLiteral("screen %1x%2").arg(screen.width()).arg(screen.height())));
+
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent", "Edit/Open link", "Open all"});
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    layout->addStretch();
+    auto* box = new QuickSearchWidget(&window);
+    layout->addWidget(box);
+    box->setSource(source.actions());
+    // Well below the screen's top so that the menu has room above the box.
+    window.setGeometry(screen.left() + 60, screen.top() + screen.height() / 2, 300, screen.height() / 3);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    type(*box, "open");
+    QMenu* popup = popupOf(*box);
+    QVERIFY(popup->isVisible());
+    const QPoint boxTopLeft = box->mapToGlobal(QPoint(0, 0));
+    QVERIFY2(boxTopLeft.y() - popup->height() >= screen.top(), "the test window is too high on the screen");
+    const QRect frame = popup->geometry();
+    QCOMPARE(frame.size(), popup->sizeHint());
+    QCOMPARE(frame.left(), boxTopLeft.x());
+    QCOMPARE(frame.bottom() + 1, boxTopLeft.y());
+    QVERIFY(frame.bottom() < boxTopLeft.y());
+}
+
+void tst_QuickSearch::ctrlQFocusesBox()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* other = new QLineEdit(&window);
+    auto* box = new RecordingSearch(&window);
+    layout->addWidget(other);
+    layout->addWidget(box);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    other->setFocus();
+    QTRY_VERIFY(other->hasFocus());
+
+    QTest::keyClick(other, Qt::Key_Q, Qt::ControlModifier);
+    QTRY_VERIFY(box->hasFocus());
+    QCOMPARE(box->focusReason, Qt::ShortcutFocusReason);
+    QVERIFY(other->text().isEmpty());
+
+    // The shortcut belongs to the box's window, not to others.
+    QWidget otherWindow;
+    auto* elsewhere = new QLineEdit(&otherWindow);
+    new QVBoxLayout(&otherWindow);
+    otherWindow.layout()->addWidget(elsewhere);
+    otherWindow.show();
+    QApplication::setActiveWindow(&otherWindow);
+    QVERIFY(QTest::qWaitForWindowActive(&otherWindow));
+    elsewhere->setFocus();
+    QTRY_VERIFY(elsewhere->hasFocus());
+    other->setFocus();
+    QCOMPARE(window.focusWidget(), other);
+    QTest::keyClick(elsewhere, Qt::Key_Q, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QVERIFY(elsewhere->hasFocus());
+    QCOMPARE(window.focusWidget(), other);
+}
+
+QTEST_MAIN(tst_QuickSearch)
+#include "tst_quicksearch.moc"
