@@ -57,7 +57,10 @@ RibbonSystemMenu::RibbonSystemMenu(QWidget* parent)
 
 RibbonSystemMenu::~RibbonSystemMenu()
 {
+    for (QAction* action : qAsConst(d->actions))
+        disconnect(action, &QObject::destroyed, this, nullptr);
     delete d;
+    d = nullptr;
 }
 
 void RibbonSystemMenu::addPopupBarAction(QAction* action, Qt::ToolButtonStyle buttonStyle)
@@ -75,11 +78,29 @@ void RibbonSystemMenu::addPopupBarAction(QAction* action, Qt::ToolButtonStyle bu
     d->bar->layout()->addWidget(button);
     d->actions.append(action);
     d->buttons.append(button);
-    d->bar->show();
-    const int barHeight = d->bar->sizeHint().height();
+    connect(action, &QObject::destroyed, this, [this, action]() {
+        const int index = d->actions.indexOf(action);
+        if (index < 0)
+            return;
+        d->actions.removeAt(index);
+        delete d->buttons.takeAt(index);
+        updateBar();
+    });
+    updateBar();
+}
+
+void RibbonSystemMenu::updateBar()
+{
+    const bool shown = !d->actions.isEmpty();
+    d->bar->setVisible(shown);
+    const int barHeight = shown ? d->bar->sizeHint().height() : 0;
     setContentsMargins(0, 0, 0, barHeight);
-    setMinimumWidth(d->bar->sizeHint().width() + 2 * style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this));
+    setMinimumWidth(shown ? d->bar->sizeHint().width() + 2 * style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this)
+                          : 0);
     updateGeometry();
+    if (isVisible())
+        adjustSize();
+    resizeEvent(nullptr);
 }
 
 QAction* RibbonSystemMenu::addPopupBarAction(const QString& text)

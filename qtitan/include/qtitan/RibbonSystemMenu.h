@@ -26,6 +26,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void updateBar();
+
     class Private;
     Private* d;
 };
