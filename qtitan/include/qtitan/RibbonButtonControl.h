@@ -27,11 +27,14 @@ public:
     void adjustCurrentSize(RibbonControlSizeDefinition::GroupSize size) override;
     void actionChanged() override;
 
+    bool isLargeAt(RibbonControlSizeDefinition::GroupSize size) const override;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    QSize computeSizeHint(RibbonControlSizeDefinition::GroupSize size) const override;
 
 private:
     class Private;

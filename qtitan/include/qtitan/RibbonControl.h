@@ -33,8 +33,18 @@ public:
     /// Re-reads the default action after it changed.
     virtual void actionChanged();
 
+    /// The size the control wants at a group size, without adopting that size.
+    QSize sizeHintForSize(RibbonControlSizeDefinition::GroupSize size) const;
+    /// Whether the control fills the group's height at a group size (rather
+    /// than taking one of the three rows).
+    virtual bool isLargeAt(RibbonControlSizeDefinition::GroupSize size) const;
+
 protected:
     void changeEvent(QEvent* event) override;
+    /// Computes the size hint at a group size; sizeHintForSize() caches it.
+    virtual QSize computeSizeHint(RibbonControlSizeDefinition::GroupSize size) const;
+    /// Drops the cached size hints and asks the group to lay out again.
+    void invalidateSize();
 
 private:
     class Private;

@@ -9,7 +9,16 @@ namespace Qtitan {
 class RibbonControl;
 
 /// How a control looks at one group size: its image size and whether its
-/// label shows. A control has one definition per group size.
+/// label shows. A control has one definition per group size; a new one starts
+/// with the office defaults for its size:
+/// - GroupLarge: large (32 px) image with the label under it;
+/// - GroupMedium: small (16 px) image with the label beside it;
+/// - GroupSmall: small image without the label;
+/// - GroupPopup (the group opened from its collapsed button): as GroupLarge.
+/// A large image makes a control fill the group's height; a small image (or
+/// none) stacks it three to a column. The button's tool button style caps what
+/// shows: icon-only and text-beside-icon buttons never use the large image,
+/// icon-only buttons never show the label and text-only ones never the image.
 class QTITAN_EXPORT RibbonControlSizeDefinition : public QObject
 {
     Q_OBJECT

@@ -78,6 +78,7 @@ private:
     class Private;
     Private* d;
     friend class RibbonPage;
+    friend class RibbonControl;
 };
 
 } // namespace Qtitan

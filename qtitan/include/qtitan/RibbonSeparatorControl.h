@@ -13,6 +13,8 @@ public:
     ~RibbonSeparatorControl() override;
 
     QSize sizeHint() const override;
+    /// A separator always spans the group's height.
+    bool isLargeAt(RibbonControlSizeDefinition::GroupSize size) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -21,7 +21,9 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    QSize computeSizeHint(RibbonControlSizeDefinition::GroupSize size) const override;
 
 private:
     class Private;
