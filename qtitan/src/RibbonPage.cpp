@@ -255,10 +255,13 @@ void RibbonPage::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
     const RibbonColors colors = detail::colorsFor(this);
-    QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(0, colors.pageBackgroundTop);
-    gradient.setColorAt(1, colors.pageBackgroundBottom);
-    p.fillRect(rect(), gradient);
+    // On a ribbon bar the bar paints the page area; alone the page paints it.
+    if (!qobject_cast<RibbonBar*>(parentWidget())) {
+        QLinearGradient gradient(0, 0, 0, height());
+        gradient.setColorAt(0, colors.pageBackgroundTop);
+        gradient.setColorAt(1, colors.pageBackgroundBottom);
+        p.fillRect(rect(), gradient);
+    }
     const RibbonMetrics m = RibbonMetrics::forWidget(this);
     p.setPen(colors.groupSeparator);
     const int top = detail::PageMargin + 3;

@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QPalette>
 #include <QWidget>
 
 namespace Qtitan {
@@ -26,37 +25,9 @@ RibbonMetrics RibbonMetrics::forWidget(const QWidget* widget)
     return forFont(widget->fontMetrics());
 }
 
-static QColor blend(const QColor& a, const QColor& b, qreal t)
-{
-    return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * t,
-                            a.greenF() + (b.greenF() - a.greenF()) * t,
-                            a.blueF() + (b.blueF() - a.blueF()) * t);
-}
-
 RibbonColors colorsFor(const QWidget* widget)
 {
-    const QPalette pal = widget->palette();
-    const QColor window = pal.color(QPalette::Window);
-    const QColor base = pal.color(QPalette::Base);
-    const QColor text = pal.color(QPalette::WindowText);
-    const QColor highlight = pal.color(QPalette::Highlight);
-    RibbonColors c;
-    c.pageBackgroundTop = blend(window, base, 0.6);
-    c.pageBackgroundBottom = blend(window, base, 0.2);
-    c.pageBorder = pal.color(QPalette::Mid);
-    c.groupTitleText = blend(text, window, 0.35);
-    c.groupSeparator = blend(pal.color(QPalette::Mid), window, 0.4);
-    c.buttonText = pal.color(QPalette::ButtonText);
-    c.buttonTextDisabled = pal.color(QPalette::Disabled, QPalette::ButtonText);
-    c.buttonHoverBackground = blend(base, highlight, 0.18);
-    c.buttonHoverBorder = blend(base, highlight, 0.45);
-    c.buttonPressedBackground = blend(base, highlight, 0.38);
-    c.buttonPressedBorder = blend(base, highlight, 0.65);
-    c.buttonCheckedBackground = blend(base, highlight, 0.28);
-    c.buttonCheckedBorder = blend(base, highlight, 0.55);
-    c.menuBackground = base;
-    c.menuBorder = pal.color(QPalette::Mid);
-    return c;
+    return RibbonColors::forWidget(widget);
 }
 
 void drawButtonFace(QPainter* painter, const QRect& rect, const RibbonColors& colors,
