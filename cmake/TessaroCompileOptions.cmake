@@ -11,6 +11,13 @@ function(tessaro_set_compile_options target)
             target_compile_options(${target} PRIVATE -Werror)
         endif()
     endif()
+    # Fuzz builds instrument every target for coverage and memory errors; the
+    # fuzzers themselves add the libFuzzer driver (fuzz/CMakeLists.txt).
+    if(TESSARO_BUILD_FUZZ)
+        target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link,address,undefined
+                                                 -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    endif()
     if(TESSARO_SANITIZE)
         target_compile_options(${target} PRIVATE -fsanitize=${TESSARO_SANITIZE} -fno-omit-frame-pointer)
         target_link_options(${target} PRIVATE -fsanitize=${TESSARO_SANITIZE})

@@ -1,8 +1,32 @@
 #include "KeyValueStorage.h"
 
+#include "StoreValidator_p.h"
+
 #include <QtCore/QBuffer>
 #include <QtCore/QDataStream>
+#include <QtCore/QEasingCurve>
 #include <QtCore/QFile>
+
+namespace {
+
+// The stream carries no usable function for curves of the plain types (the
+// validator cleared the stale address): give them back their own.
+QEasingCurve rebuiltCurve(const QEasingCurve& loaded)
+{
+    const QEasingCurve::Type type = loaded.type();
+    if (type == QEasingCurve::BezierSpline || type == QEasingCurve::TCBSpline || type == QEasingCurve::Custom)
+        return loaded;
+    QEasingCurve curve(type);
+    if (curve.amplitude() != loaded.amplitude())
+        curve.setAmplitude(loaded.amplitude());
+    if (curve.period() != loaded.period())
+        curve.setPeriod(loaded.period());
+    if (curve.overshoot() != loaded.overshoot())
+        curve.setOvershoot(loaded.overshoot());
+    return curve;
+}
+
+} // namespace
 
 KeyValueStorage::KeyValueStorage(const QString& fileName, QObject* parent)
     : QObject(parent)
@@ -40,8 +64,13 @@ void KeyValueStorage::readValues(QIODevice* device)
     m_values.clear();
     if (!device->open(QIODevice::ReadOnly))
         return;
+    QByteArray bytes = device->readAll();
+    device->close();
+    // QDataStream trusts what it reads; it only gets bytes that were checked.
+    if (!StoreValidator(bytes).isValid())
+        return;
 
-    QDataStream in(device);
+    QDataStream in(bytes);
     qint32 count = 0;
     in >> count;
     for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
@@ -50,12 +79,13 @@ void KeyValueStorage::readValues(QIODevice* device)
         in >> key >> value;
         if (in.status() != QDataStream::Ok)
             break;
+        if (value.userType() == QMetaType::QEasingCurve)
+            value = rebuiltCurve(value.value<QEasingCurve>());
         m_values.insert(key, value);
     }
     // A partly read store is worse than none.
     if (in.status() != QDataStream::Ok)
         m_values.clear();
-    device->close();
 }
 
 void KeyValueStorage::writeValues(QIODevice* device)

@@ -1,26 +1,699 @@
 #include "KeyValueStorage.h"
 
+#include <QBitArray>
+#include <QBrush>
+#include <QCborValue>
+#include <QColor>
+#include <QCursor>
+#include <QDateTime>
+#include <QEasingCurve>
+#include <QElapsedTimer>
+#include <QFont>
+#include <QIcon>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QKeySequence>
+#include <QLocale>
+#include <QMatrix4x4>
+#include <QPalette>
+#include <QPen>
+#include <QPixmap>
+#include <QPolygon>
+#include <QQuaternion>
+#include <QRegion>
+#include <QRegularExpression>
+#include <QSizePolicy>
+#include <QTemporaryDir>
+#include <QTextFormat>
+#include <QTimeZone>
+#include <QTransform>
+#include <QUrl>
+#include <QUuid>
+#include <QVector2D>
+#include <QVector3D>
 #include <QtTest>
+
+#include <memory>
+
+namespace {
+
+// The stored form, built independently of the storage: the entry count,
+// then the pairs from the largest key down.
+QByteArray encode(const QList<QPair<QString, QVariant>>& descending, qint32 count)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << count;
+    for (const auto& entry : descending)
+        out << entry.first << entry.second;
+    return bytes;
+}
+
+QByteArray encode(const QList<QPair<QString, QVariant>>& descending)
+{
+    return encode(descending, descending.size());
+}
+
+// What QDataStream itself gives back for a value: some types lose details.
+QVariant streamed(const QVariant& value)
+{
+    QByteArray bytes;
+    {
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << value;
+    }
+    QDataStream in(bytes);
+    QVariant result;
+    in >> result;
+    return result;
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return file.readAll();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+QImage testImage()
+{
+    QImage image(4, 3, QImage::Format_ARGB32);
+    image.fill(QColor(10, 20, 30));
+    image.setPixel(1, 1, qRgba(255, 0, 0, 255));
+    return image;
+}
+
+// Variant payload that is a QVariantList with the given raw count and nothing after.
+QByteArray listWithCount(quint32 count)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QVariantList) << qint8(0) << count;
+    return bytes;
+}
+
+bool loadsEmpty(QByteArray bytes)
+{
+    KeyValueStorage storage(bytes);
+    const QVariant missing(QStringLiteral("missing"));
+    for (const QString& key : {QStringLiteral("k"), QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}) {
+        if (storage.value(key, missing) != missing)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
 
 class tst_KeyValueStorage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void roundTrip()
+    void init()
+    {
+        QVERIFY(m_dir.isValid());
+    }
+
+    void missingFileIsEmptyAndNotCreated()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("missing.dat"));
+        {
+            KeyValueStorage storage(path);
+            QCOMPARE(storage.value(QStringLiteral("a"), 42), QVariant(42));
+            QVERIFY(!storage.value(QStringLiteral("a")).isValid());
+        }
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void setValueCreatesFileReadBack()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("created.dat"));
+        {
+            KeyValueStorage storage(path);
+            storage.setValue(QStringLiteral("width"), 800);
+            storage.setValue(QStringLiteral("title"), QStringLiteral("Окно"));
+            storage.setValue(QStringLiteral("width"), 1024);  // replaces
+            QCOMPARE(storage.value(QStringLiteral("width")), QVariant(1024));
+            QVERIFY(!QFile::exists(path));  // only written on destruction
+        }
+        QVERIFY(QFile::exists(path));
+        KeyValueStorage second(path);
+        QCOMPARE(second.value(QStringLiteral("width")), QVariant(1024));
+        QCOMPARE(second.value(QStringLiteral("title")), QVariant(QStringLiteral("Окно")));
+        QCOMPARE(second.value(QStringLiteral("other"), 7), QVariant(7));
+    }
+
+    void fileBytesExactlyMatchEncoding()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("exact.dat"));
+        {
+            KeyValueStorage storage(path);
+            storage.setValue(QStringLiteral("b"), QByteArray("\x01\x02", 2));
+            storage.setValue(QStringLiteral("a"), 1);
+            storage.setValue(QStringLiteral("c"), QStringLiteral("three"));
+            storage.setValue(QStringLiteral("B"), true);
+        }
+        // Descending QString order: "c" > "b" > "a" > "B".
+        const QByteArray expected = encode({{QStringLiteral("c"), QStringLiteral("three")},
+                                            {QStringLiteral("b"), QByteArray("\x01\x02", 2)},
+                                            {QStringLiteral("a"), 1},
+                                            {QStringLiteral("B"), true}});
+        QCOMPARE(readFile(path), expected);
+        // And the start spelled out: big-endian count 4, then "c" as UTF-16.
+        QCOMPARE(expected.left(12), QByteArray("\x00\x00\x00\x04\x00\x00\x00\x02\x00\x63\x00\x00", 12));
+    }
+
+    void overwritesExistingFile()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("overwrite.dat"));
+        writeFile(path, encode({{QStringLiteral("z"), 1}, {QStringLiteral("a"), 2}}));
+        {
+            KeyValueStorage storage(path);
+            QCOMPARE(storage.value(QStringLiteral("z")), QVariant(1));
+            storage.setValue(QStringLiteral("m"), 3);
+        }
+        QCOMPARE(readFile(path), encode({{QStringLiteral("z"), 1}, {QStringLiteral("m"), 3}, {QStringLiteral("a"), 2}}));
+    }
+
+    void byteArrayBacking()
     {
         QByteArray data;
         {
             KeyValueStorage storage(data);
-            QCOMPARE(storage.value(QStringLiteral("a"), 5), QVariant(5));
-            storage.setValue(QStringLiteral("a"), 1);
-            storage.setValue(QStringLiteral("b"), QStringLiteral("two"));
+            QCOMPARE(storage.value(QStringLiteral("x"), 5), QVariant(5));
+            storage.setValue(QStringLiteral("x"), 1.5);
+            storage.setValue(QStringLiteral("y"), QStringList{QStringLiteral("p"), QStringLiteral("q")});
+            QVERIFY(data.isEmpty());
         }
-        QVERIFY(!data.isEmpty());
-        KeyValueStorage storage(data);
-        QCOMPARE(storage.value(QStringLiteral("a")), QVariant(1));
-        QCOMPARE(storage.value(QStringLiteral("b")), QVariant(QStringLiteral("two")));
+        QCOMPARE(data, encode({{QStringLiteral("y"), QStringList{QStringLiteral("p"), QStringLiteral("q")}},
+                               {QStringLiteral("x"), 1.5}}));
+        KeyValueStorage again(data);
+        QCOMPARE(again.value(QStringLiteral("x")), QVariant(1.5));
+        QCOMPARE(again.value(QStringLiteral("y")).toStringList(), (QStringList{QStringLiteral("p"), QStringLiteral("q")}));
     }
+
+    void readerAcceptsAnyOrderAndDuplicates()
+    {
+        QByteArray data = encode({{QStringLiteral("a"), 1}, {QStringLiteral("c"), 3}, {QStringLiteral("b"), 2},
+                                  {QStringLiteral("a"), 4}});
+        KeyValueStorage storage(data);
+        QCOMPARE(storage.value(QStringLiteral("a")), QVariant(4));  // the later pair wins
+        QCOMPARE(storage.value(QStringLiteral("b")), QVariant(2));
+        QCOMPARE(storage.value(QStringLiteral("c")), QVariant(3));
+    }
+
+    void writesInDescendingKeyOrder()
+    {
+        QByteArray data = encode({{QStringLiteral("a"), 1}, {QStringLiteral("c"), 3}, {QStringLiteral("b"), 2}});
+        {
+            KeyValueStorage storage(data);
+            storage.setValue(QStringLiteral("Z"), 0);
+        }
+        QDataStream in(data);
+        qint32 count = 0;
+        in >> count;
+        QCOMPARE(count, 4);
+        QStringList keys;
+        for (int i = 0; i < count; ++i) {
+            QString key;
+            QVariant value;
+            in >> key >> value;
+            keys << key;
+        }
+        QCOMPARE(in.status(), QDataStream::Ok);
+        QCOMPARE(keys, (QStringList{QStringLiteral("c"), QStringLiteral("b"), QStringLiteral("a"), QStringLiteral("Z")}));
+    }
+
+    void onlyReadStorageNeverWrites()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("readonly.dat"));
+        writeFile(path, encode({{QStringLiteral("a"), 1}}));
+        {
+            KeyValueStorage storage(path);
+            QCOMPARE(storage.value(QStringLiteral("a")), QVariant(1));
+            // Changed behind the storage's back: must survive its destruction.
+            writeFile(path, QByteArray("other"));
+        }
+        QCOMPARE(readFile(path), QByteArray("other"));
+
+        QByteArray data = encode({{QStringLiteral("a"), 1}});
+        {
+            KeyValueStorage storage(data);
+            data = "other";
+        }
+        QCOMPARE(data, QByteArray("other"));
+    }
+
+    void unchangedValueStillRewrites()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("same.dat"));
+        const QByteArray original = encode({{QStringLiteral("a"), 1}});
+        writeFile(path, original);
+        {
+            KeyValueStorage storage(path);
+            storage.setValue(QStringLiteral("a"), 1);
+            writeFile(path, QByteArray("changed meanwhile"));
+        }
+        QCOMPARE(readFile(path), original);
+
+        QByteArray data = original;
+        {
+            KeyValueStorage storage(data);
+            storage.setValue(QStringLiteral("a"), 1);
+            data = "changed meanwhile";
+        }
+        QCOMPARE(data, original);
+    }
+
+    void truncatedFileIsEmpty()
+    {
+        const QByteArray full = encode({{QStringLiteral("c"), QStringLiteral("three")},
+                                        {QStringLiteral("b"), QVariantList{1, 2, QStringLiteral("x")}},
+                                        {QStringLiteral("a"), 1}});
+        // Every cut, also between two entries, loses the whole store.
+        for (int length = 0; length < full.size(); ++length) {
+            QVERIFY2(loadsEmpty(full.left(length)), qPrintable(QStringLiteral("cut at %1").arg(length)));
+        }
+        QVERIFY(!loadsEmpty(full));
+
+        const QString path = m_dir.filePath(QStringLiteral("truncated.dat"));
+        writeFile(path, full.left(full.size() - 3));
+        {
+            KeyValueStorage storage(path);
+            QVERIFY(!storage.value(QStringLiteral("c")).isValid());
+            QVERIFY(!storage.value(QStringLiteral("a")).isValid());
+        }
+        QCOMPARE(readFile(path), full.left(full.size() - 3));  // untouched
+    }
+
+    void corruptFileIsEmpty_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray good = encode({{QStringLiteral("b"), 2}, {QStringLiteral("a"), 1}});
+        QByteArray oddString = good;
+        oddString[7] = 3;  // key length no longer a whole number of UTF-16 units
+        QTest::newRow("odd string length") << oddString;
+
+        QByteArray unknownType;
+        {
+            QDataStream out(&unknownType, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("a") << quint32(999) << qint8(0) << qint32(5);
+        }
+        QTest::newRow("unknown type id") << unknownType;
+
+        QByteArray userType;
+        {
+            QDataStream out(&userType, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("a") << quint32(QMetaType::User) << qint8(0) << QByteArray("QList<int>");
+        }
+        QTest::newRow("user type") << userType;
+
+        QByteArray junkAfterFirst = good.left(good.size() - 9);
+        junkAfterFirst.append("\xff\xff\xff\xfe", 4);
+        QTest::newRow("junk in second entry") << junkAfterFirst;
+        QTest::newRow("garbage") << QByteArray("this is not a settings file at all");
+    }
+
+    void corruptFileIsEmpty()
+    {
+        QFETCH(QByteArray, bytes);
+        QVERIFY(loadsEmpty(bytes));
+        const QString path = m_dir.filePath(QStringLiteral("corrupt.dat"));
+        writeFile(path, bytes);
+        KeyValueStorage storage(path);
+        QCOMPARE(storage.value(QStringLiteral("a"), -1), QVariant(-1));
+        QCOMPARE(storage.value(QStringLiteral("b"), -1), QVariant(-1));
+    }
+
+    void negativeCountIsEmpty()
+    {
+        QByteArray data = encode({{QStringLiteral("a"), 1}}, -2);
+        QVERIFY(loadsEmpty(data));
+    }
+
+    void hostileCountsReturnQuickly_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QByteArray hugeCount;
+        {
+            QDataStream out(&hugeCount, QIODevice::WriteOnly);
+            out << qint32(0x7fffffff);
+        }
+        QTest::newRow("store count 2^31-1, nothing after") << hugeCount;
+        QTest::newRow("store count 2^31-1, one entry") << encode({{QStringLiteral("a"), 1}}, 0x7fffffff);
+        QTest::newRow("list count 2^32-1") << listWithCount(0xffffffffu);
+        QTest::newRow("list count 2^28") << listWithCount(1u << 28);
+
+        QByteArray stringList;
+        {
+            QDataStream out(&stringList, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QStringList) << qint8(0) << quint32(0xfffffff0u);
+        }
+        QTest::newRow("string list count") << stringList;
+
+        QByteArray polygon;
+        {
+            QDataStream out(&polygon, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QPolygon) << qint8(0) << quint32(0x7ffffff0u)
+                << qint32(1) << qint32(2);
+        }
+        QTest::newRow("polygon count") << polygon;
+
+        QByteArray longString;
+        {
+            QDataStream out(&longString, QIODevice::WriteOnly);
+            out << qint32(1) << quint32(0xfffffffeu);
+        }
+        QTest::newRow("key length 4 GB") << longString;
+
+        // Lists nested ten thousand deep.
+        QByteArray deep;
+        {
+            QDataStream out(&deep, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k");
+            for (int i = 0; i < 10000; ++i)
+                out << quint32(QMetaType::QVariantList) << qint8(0) << quint32(1);
+            out << quint32(QMetaType::Int) << qint8(0) << qint32(1);
+        }
+        QTest::newRow("nested 10000 deep") << deep;
+    }
+
+    void hostileCountsReturnQuickly()
+    {
+        QFETCH(QByteArray, bytes);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(loadsEmpty(bytes));
+        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void moderateNestingLoads()
+    {
+        QVariant value = 7;
+        for (int i = 0; i < 20; ++i)
+            value = QVariantList{value};
+        QByteArray data = encode({{QStringLiteral("k"), value}});
+        KeyValueStorage storage(data);
+        QCOMPARE(storage.value(QStringLiteral("k")), value);
+    }
+
+    void hostileImagesAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        auto imageEntry = [](const QByteArray& imageBytes) {
+            QByteArray bytes;
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QImage) << qint8(0) << qint32(1);
+            out.writeRawData(imageBytes.constData(), imageBytes.size());
+            return bytes;
+        };
+        // A PNG header claiming 30000 x 30000 pixels.
+        QByteArray png("\x89PNG\r\n\x1a\n", 8);
+        {
+            QDataStream out(&png, QIODevice::Append);
+            out << quint32(13);
+            out.writeRawData("IHDR", 4);
+            out << quint32(30000) << quint32(30000) << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0)
+                << quint32(0);
+            out << quint32(0);
+            out.writeRawData("IEND", 4);
+            out << quint32(0);
+        }
+        QTest::newRow("huge png") << imageEntry(png);
+        QTest::newRow("ppm header") << imageEntry(QByteArray("P6 20000 20000 255\n"));
+        QTest::newRow("xpm") << imageEntry(QByteArray("/* XPM */\nstatic char *x[] = {\"9999 9999 1 1\"};"));
+
+        QByteArray icon;
+        {
+            QDataStream out(&icon, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QIcon) << qint8(0)
+                << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(0) << QStringLiteral("/dev/zero")
+                << QSize(16, 16) << quint32(0) << quint32(0);
+        }
+        QTest::newRow("icon naming a file") << icon;
+
+        QByteArray timeZone;
+        {
+            QDataStream out(&timeZone, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QDateTime) << qint8(0) << qint64(2458850)
+                << quint32(0) << qint8(Qt::TimeZone) << QStringLiteral("../../../dev/zero");
+        }
+        QTest::newRow("time zone path") << timeZone;
+    }
+
+    void hostileImagesAreRefused()
+    {
+        QFETCH(QByteArray, bytes);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(loadsEmpty(bytes));
+        QVERIFY(timer.elapsed() < 2000);
+    }
+
+    void valueTypesRoundTrip_data()
+    {
+        QTest::addColumn<QVariant>("value");
+        QVariantMap map{{QStringLiteral("x"), 1}, {QStringLiteral("y"), QStringLiteral("z")}};
+        QTextCharFormat format;
+        format.setFontWeight(QFont::Bold);
+        format.setForeground(QColor(Qt::red));
+        QLinearGradient linear(0, 0, 10, 10);
+        linear.setColorAt(0.25, Qt::blue);
+        QRadialGradient radial(1, 2, 3, 4, 5);
+        QConicalGradient conical(1, 2, 30);
+        QPen pen(QBrush(QColor(1, 2, 3)), 2.5, Qt::DashDotLine);
+        pen.setDashPattern({1, 2, 3, 4});
+        QPalette palette;
+        palette.setColor(QPalette::Window, QColor(4, 5, 6));
+        palette.setBrush(QPalette::Base, QBrush(testImage()));
+        QTimeZone custom(QByteArray("Tessaro/Custom"), 5400, QStringLiteral("n"), QStringLiteral("a"),
+                         QLocale::Russia, QStringLiteral("c"));
+
+        QTest::newRow("invalid") << QVariant();
+        QTest::newRow("bool") << QVariant(true);
+        QTest::newRow("int") << QVariant(-42);
+        QTest::newRow("uint") << QVariant(42u);
+        QTest::newRow("longlong") << QVariant(-(Q_INT64_C(1) << 40));
+        QTest::newRow("ulonglong") << QVariant(Q_UINT64_C(1) << 63);
+        QTest::newRow("double") << QVariant(3.25);
+        QTest::newRow("float") << QVariant::fromValue(1.5f);
+        QTest::newRow("short") << QVariant::fromValue(short(-3));
+        QTest::newRow("uchar") << QVariant::fromValue(uchar(200));
+        QTest::newRow("long") << QVariant::fromValue(long(-70000));
+        QTest::newRow("nullptr") << QVariant::fromValue(nullptr);
+        QTest::newRow("char") << QVariant(QChar(0x416));
+        QTest::newRow("string") << QVariant(QStringLiteral("Главное окно"));
+        QTest::newRow("null string") << QVariant(QString());
+        QTest::newRow("stringlist") << QVariant(QStringList{QStringLiteral("a"), QString(), QStringLiteral("bc")});
+        QTest::newRow("bytearray") << QVariant(QByteArray("geometry\0state", 14));
+        QTest::newRow("bytearraylist") << QVariant::fromValue(QByteArrayList{"a", QByteArray(), "b"});
+        QTest::newRow("bitarray") << QVariant(QBitArray(11, true));
+        QTest::newRow("date") << QVariant(QDate(2024, 2, 29));
+        QTest::newRow("time") << QVariant(QTime(13, 14, 15, 16));
+        QTest::newRow("datetime utc") << QVariant(QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC));
+        QTest::newRow("datetime local") << QVariant(QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::LocalTime));
+        QTest::newRow("datetime offset") << QVariant(QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, 3600));
+        QTest::newRow("datetime zone") << QVariant(QDateTime(QDate(2020, 1, 2), QTime(3, 4), QTimeZone("Europe/Moscow")));
+        QTest::newRow("datetime custom zone") << QVariant(QDateTime(QDate(2020, 1, 2), QTime(3, 4), custom));
+        QTest::newRow("url") << QVariant(QUrl(QStringLiteral("https://example.org/a?b#c")));
+        QTest::newRow("locale") << QVariant(QLocale(QLocale::Russian));
+        QTest::newRow("rect") << QVariant(QRect(1, 2, 3, 4));
+        QTest::newRow("rectf") << QVariant(QRectF(1.5, 2, 3, 4));
+        QTest::newRow("size") << QVariant(QSize(5, 6));
+        QTest::newRow("sizef") << QVariant(QSizeF(5.5, 6));
+        QTest::newRow("line") << QVariant(QLine(1, 2, 3, 4));
+        QTest::newRow("linef") << QVariant(QLineF(1, 2, 3, 4.5));
+        QTest::newRow("point") << QVariant(QPoint(7, 8));
+        QTest::newRow("pointf") << QVariant(QPointF(7.5, 8));
+        QTest::newRow("regexp") << QVariant(QRegExp(QStringLiteral("a+b"), Qt::CaseInsensitive));
+        QTest::newRow("regularexpression")
+            << QVariant(QRegularExpression(QStringLiteral("a+b"), QRegularExpression::CaseInsensitiveOption));
+        QTest::newRow("map") << QVariant(map);
+        QTest::newRow("hash") << QVariant(QVariantHash{{QStringLiteral("h"), 2.5}});
+        QTest::newRow("list") << QVariant(QVariantList{1, QStringLiteral("s"), QVariantList{map}, QVariant()});
+        QTest::newRow("easing plain") << QVariant(QEasingCurve(QEasingCurve::InOutQuad));
+        QTest::newRow("easing with config") << QVariant(QEasingCurve(QEasingCurve::OutElastic));
+        QTest::newRow("uuid") << QVariant(QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")));
+        QTest::newRow("json document") << QVariant(QJsonDocument::fromJson("{\"a\":[1,2,{\"b\":null}]}"));
+        QTest::newRow("json object") << QVariant(QJsonObject{{QStringLiteral("a"), 1}});
+        QTest::newRow("json array") << QVariant(QJsonArray{1, QStringLiteral("two")});
+        QTest::newRow("json value string") << QVariant(QJsonValue(QStringLiteral("v")));
+        QTest::newRow("json value object") << QVariant(QJsonValue(QJsonObject{{QStringLiteral("a"), true}}));
+        QTest::newRow("cbor") << QVariant::fromValue(QCborValue(QStringLiteral("c")));
+        QTest::newRow("color") << QVariant(QColor(1, 2, 3, 4));
+        QTest::newRow("font") << QVariant(QFont(QStringLiteral("Sans"), 11, QFont::Bold, true));
+        QTest::newRow("brush solid") << QVariant(QBrush(QColor(9, 8, 7), Qt::Dense3Pattern));
+        QTest::newRow("brush linear") << QVariant(QBrush(linear));
+        QTest::newRow("brush radial") << QVariant(QBrush(radial));
+        QTest::newRow("brush conical") << QVariant(QBrush(conical));
+        QTest::newRow("pen") << QVariant(pen);
+        QTest::newRow("palette") << QVariant(palette);
+        QTest::newRow("polygon") << QVariant(QPolygon(QVector<QPoint>{{1, 2}, {3, 4}}));
+        QTest::newRow("polygonf") << QVariant(QPolygonF(QVector<QPointF>{{1, 2}, {3, 4.5}}));
+        QTest::newRow("region") << QVariant(QRegion(1, 2, 3, 4) + QRegion(10, 10, 2, 2));
+        QTest::newRow("empty region") << QVariant(QRegion());
+        QTest::newRow("keysequence") << QVariant(QKeySequence(QStringLiteral("Ctrl+S, Ctrl+Q")));
+        QTest::newRow("keysequence single") << QVariant(QKeySequence(QStringLiteral("F5")));
+        QTest::newRow("textlength") << QVariant(QTextLength(QTextLength::PercentageLength, 50));
+        QTest::newRow("textformat") << QVariant(static_cast<QTextFormat>(format));
+        QTest::newRow("matrix") << QVariant(QMatrix(1, 2, 3, 4, 5, 6));
+        QTest::newRow("transform") << QVariant(QTransform(1, 2, 3, 4, 5, 6));
+        QTest::newRow("matrix4x4") << QVariant(QMatrix4x4(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16));
+        QTest::newRow("vector2d") << QVariant(QVector2D(1, 2));
+        QTest::newRow("vector3d") << QVariant(QVector3D(1, 2, 3));
+        QTest::newRow("vector4d") << QVariant(QVector4D(1, 2, 3, 4));
+        QTest::newRow("quaternion") << QVariant(QQuaternion(1, 2, 3, 4));
+        QTest::newRow("sizepolicy") << QVariant(QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed));
+    }
+
+    void valueTypesRoundTrip()
+    {
+        QFETCH(QVariant, value);
+        QByteArray data;
+        {
+            KeyValueStorage storage(data);
+            storage.setValue(QStringLiteral("z"), 1);
+            storage.setValue(QStringLiteral("k"), value);
+            storage.setValue(QStringLiteral("a"), 2);
+        }
+        KeyValueStorage storage(data);
+        // The neighbours on both sides prove the value's bytes were read exactly.
+        QCOMPARE(storage.value(QStringLiteral("z")), QVariant(1));
+        QCOMPARE(storage.value(QStringLiteral("a")), QVariant(2));
+        const QVariant loaded = storage.value(QStringLiteral("k"), QStringLiteral("missing"));
+        QCOMPARE(loaded.userType(), value.userType());
+        if (value.userType() == QMetaType::QEasingCurve) {
+            const auto curve = value.value<QEasingCurve>();
+            QCOMPARE(loaded.value<QEasingCurve>().valueForProgress(0.3), curve.valueForProgress(0.3));
+        } else if (value.userType() == QMetaType::QDateTime) {
+            QCOMPARE(loaded.toDateTime(), value.toDateTime());
+            QCOMPARE(loaded.toDateTime().offsetFromUtc(), value.toDateTime().offsetFromUtc());
+        } else if (value.userType() == QMetaType::QPalette) {
+            const auto palette = loaded.value<QPalette>();
+            QCOMPARE(palette.color(QPalette::Window), QColor(4, 5, 6));
+            QCOMPARE(palette.brush(QPalette::Base).textureImage().convertToFormat(QImage::Format_ARGB32), testImage());
+        } else if (value.isValid()) {
+            QCOMPARE(loaded, streamed(value));
+        }
+    }
+
+    void imagesRoundTrip()
+    {
+        const QImage image = testImage();
+        QByteArray data;
+        {
+            KeyValueStorage storage(data);
+            storage.setValue(QStringLiteral("image"), image);
+            storage.setValue(QStringLiteral("pixmap"), QPixmap::fromImage(image));
+            storage.setValue(QStringLiteral("null image"), QImage());
+            storage.setValue(QStringLiteral("icon"), QIcon(QPixmap::fromImage(image)));
+            storage.setValue(QStringLiteral("brush"), QBrush(image));
+            storage.setValue(QStringLiteral("cursor"), QCursor(QPixmap::fromImage(image), 1, 2));
+            storage.setValue(QStringLiteral("shape cursor"), QCursor(Qt::IBeamCursor));
+            storage.setValue(QStringLiteral("after"), 1);
+        }
+        KeyValueStorage storage(data);
+        QCOMPARE(storage.value(QStringLiteral("after")), QVariant(1));
+        QCOMPARE(storage.value(QStringLiteral("image")).value<QImage>().convertToFormat(QImage::Format_ARGB32), image);
+        QCOMPARE(storage.value(QStringLiteral("pixmap")).value<QPixmap>().toImage().convertToFormat(QImage::Format_ARGB32),
+                 image);
+        QVERIFY(storage.value(QStringLiteral("null image")).value<QImage>().isNull());
+        QCOMPARE(storage.value(QStringLiteral("icon")).value<QIcon>().pixmap(4, 3).toImage().convertToFormat(
+                     QImage::Format_ARGB32),
+                 image);
+        QCOMPARE(storage.value(QStringLiteral("brush")).value<QBrush>().textureImage().convertToFormat(
+                     QImage::Format_ARGB32),
+                 image);
+        QCOMPARE(storage.value(QStringLiteral("cursor")).value<QCursor>().hotSpot(), QPoint(1, 2));
+        QCOMPARE(storage.value(QStringLiteral("shape cursor")).value<QCursor>().shape(), Qt::IBeamCursor);
+    }
+
+    void themeIconNames()
+    {
+        auto themeIcon = [](const QString& name) {
+            QByteArray bytes;
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            out << qint32(2) << QStringLiteral("k") << quint32(QMetaType::QIcon) << qint8(0)
+                << QStringLiteral("QIconLoaderEngine") << name;
+            out << QStringLiteral("a") << QVariant(2);
+            return bytes;
+        };
+        QByteArray plain = themeIcon(QStringLiteral("document-open"));
+        {
+            KeyValueStorage storage(plain);
+            QCOMPARE(storage.value(QStringLiteral("a")), QVariant(2));
+            QCOMPARE(storage.value(QStringLiteral("k")).userType(), int(QMetaType::QIcon));
+        }
+        QVERIFY(loadsEmpty(themeIcon(QStringLiteral("../../etc/passwd"))));
+        QVERIFY(loadsEmpty(themeIcon(QStringLiteral("a/b"))));
+    }
+
+    void staleEasingFunctionIsNeverCalled()
+    {
+        // Qt 5 writes the address of a plain curve's function; another process
+        // must not jump to it.
+        QByteArray bytes;
+        {
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QEasingCurve) << qint8(0)
+                << quint8(QEasingCurve::InQuad) << quint64(0x4141414141414141ull) << false;
+        }
+        KeyValueStorage storage(bytes);
+        const auto curve = storage.value(QStringLiteral("k")).value<QEasingCurve>();
+        QCOMPARE(curve.type(), QEasingCurve::InQuad);
+        QCOMPARE(curve.valueForProgress(0.5), 0.25);
+    }
+
+    void unwritableFileLosesChangesSilently()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("no/such/dir/file.dat"));
+        {
+            KeyValueStorage storage(path);
+            storage.setValue(QStringLiteral("a"), 1);
+        }
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void parentDestroysAndWrites()
+    {
+        QByteArray data;
+        auto parent = std::make_unique<QObject>();
+        auto* storage = new KeyValueStorage(data, parent.get());
+        storage->setValue(QStringLiteral("a"), 1);
+        QCOMPARE(parent->children().size(), 1);
+        parent.reset();
+        QCOMPARE(data, encode({{QStringLiteral("a"), 1}}));
+    }
+
+    void twoStoragesLastDestroyedWins()
+    {
+        const QString path = m_dir.filePath(QStringLiteral("two.dat"));
+        {
+            KeyValueStorage first(path);
+            KeyValueStorage second(path);
+            first.setValue(QStringLiteral("a"), 1);
+            second.setValue(QStringLiteral("b"), 2);
+            // second is destroyed first, then first overwrites it
+        }
+        KeyValueStorage reader(path);
+        QCOMPARE(reader.value(QStringLiteral("a")), QVariant(1));
+        QVERIFY(!reader.value(QStringLiteral("b")).isValid());
+    }
+
+private:
+    QTemporaryDir m_dir;
 };
 
 QTEST_MAIN(tst_KeyValueStorage)

@@ -1,0 +1,671 @@
+#include "StoreValidator_p.h"
+
+#include <QtCore/QLocale>
+#include <QtCore/QMetaType>
+#include <QtCore/QTimeZone>
+#include <QtCore/QtEndian>
+
+#include <cstring>
+
+namespace {
+
+// Containers nest no deeper than this; QDataStream decodes them recursively.
+const int maxDepth = 64;
+// Decoded images stay below 16 M pixels (at most 128 MB even at 8 bytes a pixel).
+const quint32 maxImageSide = 32768;
+const quint64 maxImagePixels = quint64(1) << 24;
+// QRegion unites its rectangles one at a time: quadratic in their number.
+const quint32 maxRegionRects = 1024;
+// QKeySequence holds at most four keys and reads no more.
+const quint32 maxKeys = 4;
+
+const quint32 nullLength = 0xffffffffu;
+
+// Values written by Qt 5 with the default stream settings.
+const quint32 sizeofDouble = 8;
+const quint32 sizeofColor = 11;      // qint8 spec, five quint16
+const quint32 sizeofTransform = 9 * sizeofDouble;
+const int brushTexturePattern = 24;  // Qt::TexturePattern
+const int brushLastStyle = 24;
+const int brushFirstGradient = 15;   // Qt::LinearGradientPattern .. ConicalGradientPattern
+const int brushLastGradient = 17;
+const int cursorBitmapShape = 24;    // Qt::BitmapCursor
+const int paletteGroups = 3;
+const int paletteRoles = 21;
+const int easingLastType = 46;       // QEasingCurve::TCBSpline; Custom is refused
+const quint8 jsonUndefined = 0x80;
+const qint32 regionRects = 10;       // the only region form QRegion writes
+
+bool isSafeName(const QByteArray& name)
+{
+    // A theme icon name or a time-zone id: looked up on disk, so no way out
+    // of the directories Qt searches.
+    if (name.isEmpty() || name.size() > 128 || name.startsWith('/') || name.contains(".."))
+        return false;
+    for (char c : name) {
+        const bool ok = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')
+                        || c == '/' || c == '_' || c == '-' || c == '+' || c == '.';
+        if (!ok)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+StoreValidator::StoreValidator(QByteArray& data)
+    : m_data(data.data())
+    , m_size(static_cast<quint32>(data.size()))
+{
+}
+
+bool StoreValidator::isValid()
+{
+    m_pos = 0;
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    // A negative count reads as an empty store.
+    if (static_cast<qint32>(count) < 0)
+        return true;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!string() || !variant(0))
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::need(quint32 bytes) const
+{
+    return bytes <= m_size - m_pos;
+}
+
+bool StoreValidator::skip(quint32 bytes)
+{
+    if (!need(bytes))
+        return false;
+    m_pos += bytes;
+    return true;
+}
+
+bool StoreValidator::readU8(quint8& value)
+{
+    if (!need(1))
+        return false;
+    value = static_cast<quint8>(m_data[m_pos++]);
+    return true;
+}
+
+bool StoreValidator::readU16(quint16& value)
+{
+    if (!need(2))
+        return false;
+    value = qFromBigEndian<quint16>(m_data + m_pos);
+    m_pos += 2;
+    return true;
+}
+
+bool StoreValidator::readU32(quint32& value)
+{
+    if (!need(4))
+        return false;
+    value = qFromBigEndian<quint32>(m_data + m_pos);
+    m_pos += 4;
+    return true;
+}
+
+bool StoreValidator::variant(int depth)
+{
+    if (depth > maxDepth)
+        return false;
+    quint32 type = 0;
+    quint8 isNull = 0;
+    if (!readU32(type) || !readU8(isNull))
+        return false;
+    return payload(type, depth);
+}
+
+bool StoreValidator::payload(quint32 type, int depth)
+{
+    switch (type) {
+    case QMetaType::UnknownType:  // an invalid QVariant carries nothing
+    case QMetaType::Nullptr:
+        return true;
+    case QMetaType::Bool:
+    case QMetaType::Char:
+    case QMetaType::SChar:
+    case QMetaType::UChar:
+    case QMetaType::QCborSimpleType:
+        return skip(1);
+    case QMetaType::QChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+        return skip(2);
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::QTime:
+    case QMetaType::QSizePolicy:
+        return skip(4);
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::Double:
+    case QMetaType::Float:  // written as a double at the default precision
+    case QMetaType::QDate:
+    case QMetaType::QSize:
+    case QMetaType::QPoint:
+        return skip(8);
+    case QMetaType::QTextLength:
+        return skip(4 + sizeofDouble);
+    case QMetaType::QColor:
+        return color();
+    case QMetaType::QRect:
+    case QMetaType::QLine:
+    case QMetaType::QSizeF:
+    case QMetaType::QPointF:
+    case QMetaType::QUuid:
+    case QMetaType::QVector2D:
+        return skip(16);
+    case QMetaType::QVector3D:
+        return skip(3 * sizeofDouble);
+    case QMetaType::QRectF:
+    case QMetaType::QLineF:
+    case QMetaType::QVector4D:
+    case QMetaType::QQuaternion:
+        return skip(4 * sizeofDouble);
+    case QMetaType::QMatrix:
+        return skip(6 * sizeofDouble);
+    case QMetaType::QTransform:
+        return skip(sizeofTransform);
+    case QMetaType::QMatrix4x4:
+        return skip(16 * sizeofDouble);
+    case QMetaType::QString:
+    case QMetaType::QLocale:
+        return string();
+    case QMetaType::QByteArray:
+    case QMetaType::QUrl:
+    case QMetaType::QJsonObject:
+    case QMetaType::QJsonArray:
+    case QMetaType::QJsonDocument:
+    case QMetaType::QCborValue:
+    case QMetaType::QCborArray:
+    case QMetaType::QCborMap:
+        // Text or CBOR that Qt parses with its own nesting limits.
+        return byteArray();
+    case QMetaType::QStringList:
+        return stringList();
+    case QMetaType::QByteArrayList:
+        return byteArrayList();
+    case QMetaType::QVariantMap:
+    case QMetaType::QVariantHash:
+        return variantMap(depth);
+    case QMetaType::QVariantList:
+        return variantList(depth);
+    case QMetaType::QVariant:
+        return variant(depth + 1);
+    case QMetaType::QBitArray:
+        return bitArray();
+    case QMetaType::QDateTime:
+        return dateTime();
+    case QMetaType::QRegExp:
+        return regExp();
+    case QMetaType::QRegularExpression:
+        return string() && skip(4);
+    case QMetaType::QEasingCurve:
+        return easingCurve();
+    case QMetaType::QJsonValue:
+        return jsonValue();
+    case QMetaType::QFont:
+        return font();
+    case QMetaType::QPixmap:
+    case QMetaType::QImage:
+    case QMetaType::QBitmap:
+        return image();
+    case QMetaType::QIcon:
+        return icon();
+    case QMetaType::QBrush:
+        return brush();
+    case QMetaType::QPen:
+        return pen();
+    case QMetaType::QPalette:
+        return palette();
+    case QMetaType::QPolygon:
+        return polygon(8);
+    case QMetaType::QPolygonF:
+        return polygon(16);
+    case QMetaType::QRegion:
+        return region();
+    case QMetaType::QCursor:
+        return cursor();
+    case QMetaType::QKeySequence:
+        return keySequence();
+    case QMetaType::QTextFormat:
+        return textFormat(depth);
+    default:
+        // User types, types without stream operators and unknown ids.
+        return false;
+    }
+}
+
+bool StoreValidator::string()
+{
+    quint32 bytes = 0;
+    if (!readU32(bytes))
+        return false;
+    if (bytes == nullLength)
+        return true;
+    return bytes % 2 == 0 && skip(bytes);
+}
+
+bool StoreValidator::asciiString(QByteArray& text, bool& ascii)
+{
+    const quint32 start = m_pos;
+    if (!string())
+        return false;
+    text.clear();
+    ascii = true;
+    if (m_pos - start == 4)
+        return true;  // null or empty
+    for (quint32 p = start + 4; p < m_pos; p += 2) {
+        const quint16 unit = qFromBigEndian<quint16>(m_data + p);
+        if (unit == 0 || unit > 0x7f)
+            ascii = false;
+        text.append(static_cast<char>(unit));
+    }
+    return true;
+}
+
+bool StoreValidator::readString(QString& text)
+{
+    const quint32 start = m_pos;
+    if (!string())
+        return false;
+    text.clear();
+    const quint32 units = m_pos - start == 4 ? 0 : (m_pos - start - 4) / 2;
+    text.reserve(static_cast<int>(units));
+    for (quint32 i = 0; i < units; ++i)
+        text.append(QChar(qFromBigEndian<quint16>(m_data + start + 4 + 2 * i)));
+    return true;
+}
+
+bool StoreValidator::byteArray()
+{
+    quint32 bytes = 0;
+    if (!readU32(bytes))
+        return false;
+    return bytes == nullLength || skip(bytes);
+}
+
+bool StoreValidator::stringList()
+{
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!string())
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::byteArrayList()
+{
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!byteArray())
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::variantMap(int depth)
+{
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!string() || !variant(depth + 1))
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::variantList(int depth)
+{
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!variant(depth + 1))
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::color()
+{
+    // Spec (Invalid .. ExtendedRgb), alpha, three components, padding.
+    quint8 spec = 0;
+    return readU8(spec) && spec <= 5 && skip(sizeofColor - 1);
+}
+
+bool StoreValidator::regExp()
+{
+    // Pattern, case sensitivity, syntax (RegExp .. W3CXmlSchema11), minimal.
+    quint8 caseSensitivity = 0;
+    quint8 syntax = 0;
+    quint8 minimal = 0;
+    return string() && readU8(caseSensitivity) && readU8(syntax) && readU8(minimal) && caseSensitivity <= 1
+           && syntax <= 5 && minimal <= 1;
+}
+
+bool StoreValidator::bitArray()
+{
+    quint32 bits = 0;
+    if (!readU32(bits))
+        return false;
+    return skip(bits / 8 + (bits % 8 ? 1 : 0));
+}
+
+bool StoreValidator::dateTime()
+{
+    quint8 spec = 0;
+    if (!skip(8 + 4) || !readU8(spec))
+        return false;
+    // Qt keeps an unknown spec as it is and later takes it for a time zone.
+    switch (spec) {
+    case Qt::LocalTime:
+    case Qt::UTC:
+        return true;
+    case Qt::OffsetFromUTC:
+        return skip(4);
+    case Qt::TimeZone:
+        return timeZone();
+    default:
+        return false;
+    }
+}
+
+bool StoreValidator::timeZone()
+{
+    // QDateTime keeps a zone that failed to load and crashes when it is
+    // streamed out again: only zones that load are let through.
+    QString id;
+    if (!readString(id))
+        return false;
+    if (id == QLatin1String("OffsetFromUtc")) {
+        QString customId;
+        QString name;
+        QString abbreviation;
+        QString comment;
+        quint32 offset = 0;
+        quint32 country = 0;
+        if (!readString(customId) || !readU32(offset) || !readString(name) || !readString(abbreviation)
+            || !readU32(country) || !readString(comment))
+            return false;
+        return QTimeZone(customId.toUtf8(), static_cast<qint32>(offset), name, abbreviation,
+                         static_cast<QLocale::Country>(country), comment)
+            .isValid();
+    }
+    const QByteArray zone = id.toUtf8();
+    // Ids name files under the zone database: no way out of it.
+    return (zone.isEmpty() || isSafeName(zone)) && QTimeZone(zone).isValid();
+}
+
+bool StoreValidator::easingCurve()
+{
+    quint8 type = 0;
+    quint8 hasConfig = 0;
+    if (!readU8(type) || type > easingLastType)
+        return false;
+    // Qt 5 streams the address of the curve's function and calls whatever
+    // address it reads back: clear it, KeyValueStorage rebuilds the curve.
+    if (!need(8))
+        return false;
+    std::memset(m_data + m_pos, 0, 8);
+    m_pos += 8;
+    if (!readU8(hasConfig))
+        return false;
+    if (!hasConfig)
+        return true;
+    // Period, amplitude, overshoot, Bézier points, TCB points.
+    return skip(3 * sizeofDouble) && polygon(16) && polygon(16 + 3 * sizeofDouble);
+}
+
+bool StoreValidator::jsonValue()
+{
+    quint8 type = 0;
+    if (!readU8(type))
+        return false;
+    switch (type) {
+    case 0:  // Null
+    case jsonUndefined:
+        return true;
+    case 1:  // Bool
+        return skip(1);
+    case 2:  // Double
+        return skip(sizeofDouble);
+    case 3:  // String
+        return string();
+    case 4:  // Array, as a JSON document
+    case 5:  // Object
+        return byteArray();
+    default:
+        return false;
+    }
+}
+
+bool StoreValidator::font()
+{
+    // Family, style name, point size, pixel size, style hint, style strategy,
+    // charset, weight, bits, stretch, extended bits, letter spacing, word
+    // spacing, hinting preference, capitalization, families.
+    return string() && string() && skip(sizeofDouble + 4 + 1 + 2 + 1 + 1 + 1 + 2 + 1 + 4 + 4 + 1 + 1)
+           && stringList();
+}
+
+bool StoreValidator::image()
+{
+    quint32 marker = 0;
+    if (!readU32(marker))
+        return false;
+    return marker == 0 || png();
+}
+
+bool StoreValidator::png()
+{
+    // QImageReader guesses the format from the bytes: accept only PNG (what
+    // QDataStream writes) and bound its size before libpng allocates it.
+    static const char signature[] = "\x89PNG\r\n\x1a\n";
+    if (!need(8) || std::memcmp(m_data + m_pos, signature, 8) != 0)
+        return false;
+    m_pos += 8;
+    bool first = true;
+    for (;;) {
+        quint32 length = 0;
+        if (!readU32(length) || length > 0x7fffffffu || !need(4))
+            return false;
+        const QByteArray type(m_data + m_pos, 4);
+        m_pos += 4;
+        if (first) {
+            if (type != "IHDR" || length != 13 || !need(8))
+                return false;
+            const quint32 width = qFromBigEndian<quint32>(m_data + m_pos);
+            const quint32 height = qFromBigEndian<quint32>(m_data + m_pos + 4);
+            if (width == 0 || height == 0 || width > maxImageSide || height > maxImageSide
+                || quint64(width) * height > maxImagePixels)
+                return false;
+            first = false;
+        }
+        if (!skip(length) || !skip(4))  // data, CRC
+            return false;
+        if (type == "IEND")
+            return true;
+    }
+}
+
+bool StoreValidator::icon()
+{
+    QByteArray key;
+    bool ascii = false;
+    if (!asciiString(key, ascii))
+        return false;
+    if (key.isEmpty())
+        return true;  // a null icon
+    if (!ascii)
+        return false;
+    if (key == "QIconLoaderEngine") {
+        QByteArray name;
+        if (!asciiString(name, ascii))
+            return false;
+        return name.isEmpty() || (ascii && isSafeName(name) && !name.contains('/'));
+    }
+    if (key != "QPixmapIconEngine")
+        return false;  // engines from plugins read formats of their own
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        const quint32 imageStart = m_pos;
+        if (!image())
+            return false;
+        const bool nullImage = qFromBigEndian<quint32>(m_data + imageStart) == 0;
+        QByteArray fileName;
+        if (!asciiString(fileName, ascii))
+            return false;
+        // A null pixmap makes Qt load the entry's file: only compiled-in
+        // resources may be named then.
+        if (nullImage && !fileName.isEmpty() && !(ascii && fileName.startsWith(":/")))
+            return false;
+        if (!skip(8 + 4 + 4))  // size, mode, state
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::brush()
+{
+    quint8 style = 0;
+    if (!readU8(style) || style > brushLastStyle || !color())
+        return false;
+    if (style == brushTexturePattern) {
+        if (!image())
+            return false;
+    } else if (style >= brushFirstGradient && style <= brushLastGradient) {
+        quint32 type = 0;
+        if (!readU32(type) || type != quint32(style - brushFirstGradient))
+            return false;
+        // Spread, coordinate mode, interpolation mode, then the stops.
+        quint32 spread = 0;
+        quint32 mode = 0;
+        quint32 interpolation = 0;
+        if (!readU32(spread) || !readU32(mode) || !readU32(interpolation) || spread > 2 || mode > 3
+            || interpolation > 1)
+            return false;
+        quint32 stops = 0;
+        if (!readU32(stops))
+            return false;
+        for (quint32 i = 0; i < stops; ++i) {
+            if (!skip(sizeofDouble) || !color())
+                return false;
+        }
+        static const quint32 geometry[] = {2 * 16, 2 * 16 + sizeofDouble, 16 + sizeofDouble};
+        if (!skip(geometry[type]))
+            return false;
+    }
+    return skip(sizeofTransform);
+}
+
+bool StoreValidator::pen()
+{
+    // Style bits, cosmetic, width, brush, miter limit, dashes, dash offset,
+    // default width. The style bits hold a pen style, a cap and a join.
+    quint16 bits = 0;
+    if (!readU16(bits))
+        return false;
+    const quint16 join = bits & Qt::MPenJoinStyle;
+    if ((bits & Qt::MPenStyle) > Qt::CustomDashLine || (bits & Qt::MPenCapStyle) == Qt::MPenCapStyle
+        || (join != Qt::MiterJoin && join != Qt::BevelJoin && join != Qt::RoundJoin && join != Qt::SvgMiterJoin))
+        return false;
+    return skip(1 + sizeofDouble) && brush() && skip(sizeofDouble) && polygon(sizeofDouble)
+           && skip(sizeofDouble + 1);
+}
+
+bool StoreValidator::palette()
+{
+    for (int i = 0; i < paletteGroups * paletteRoles; ++i) {
+        if (!brush())
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::polygon(quint32 pointSize)
+{
+    // Any QVector of fixed-size elements: a count, then the elements.
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    return quint64(count) * pointSize <= m_size - m_pos && skip(count * pointSize);
+}
+
+bool StoreValidator::region()
+{
+    quint32 bytes = 0;
+    if (!readU32(bytes))
+        return false;
+    if (bytes == 0 || bytes == nullLength)
+        return true;
+    // Only the rectangle list that QRegion writes; its other forms nest and
+    // rasterise ellipses and polygons of any size.
+    quint32 id = 0;
+    quint32 count = 0;
+    if (bytes < 8 || !need(bytes) || !readU32(id) || !readU32(count))
+        return false;
+    if (static_cast<qint32>(id) != regionRects || count > maxRegionRects || bytes != 8 + 16 * count)
+        return false;
+    return skip(16 * count);
+}
+
+bool StoreValidator::cursor()
+{
+    quint16 shape = 0;
+    if (!readU16(shape))
+        return false;
+    if (static_cast<qint16>(shape) != cursorBitmapShape)
+        return true;
+    quint8 isPixmap = 0;
+    if (!readU8(isPixmap))
+        return false;
+    if (isPixmap) {
+        if (!image())
+            return false;
+    } else if (!image() || !image()) {  // bitmap and mask
+        return false;
+    }
+    return skip(8);  // hot spot
+}
+
+bool StoreValidator::keySequence()
+{
+    quint32 count = 0;
+    if (!readU32(count))
+        return false;
+    return skip(4 * qMin(count, maxKeys));
+}
+
+bool StoreValidator::textFormat(int depth)
+{
+    // Format type, then the property map of int keys and variant values.
+    quint32 count = 0;
+    if (!skip(4) || !readU32(count))
+        return false;
+    for (quint32 i = 0; i < count; ++i) {
+        if (!skip(4) || !variant(depth + 1))
+            return false;
+    }
+    return true;
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QtGlobal>
+
+/// Walks the bytes of a stored QMap<QString, QVariant> before QDataStream
+/// decodes them, and accepts them only when every value has the layout Qt 5
+/// writes for a whitelisted type, within sane limits.
+///
+/// QDataStream trusts the counts it reads (a list count of four billion
+/// reserves memory for four billion elements), decodes images with whatever
+/// size their header claims, calls the function address an easing curve holds,
+/// resolves icon file names and time-zone ids on disk, and unites region
+/// rectangles quadratically. Checking the layout first keeps every later
+/// allocation proportional to the input and keeps the decoder away from
+/// those paths.
+class StoreValidator
+{
+public:
+    /// May clear bytes of \a data that must not reach the decoder.
+    explicit StoreValidator(QByteArray& data);
+
+    /// True when the whole store (count, then that many key/value pairs) is
+    /// well formed. Bytes after the last entry are ignored, as QDataStream does.
+    bool isValid();
+
+private:
+    bool need(quint32 bytes) const;
+    bool skip(quint32 bytes);
+    bool readU8(quint8& value);
+    bool readU16(quint16& value);
+    bool readU32(quint32& value);
+
+    bool variant(int depth);
+    bool payload(quint32 type, int depth);
+    bool string();
+    bool readString(QString& text);
+    bool asciiString(QByteArray& text, bool& ascii);
+    bool byteArray();
+    bool stringList();
+    bool byteArrayList();
+    bool variantMap(int depth);
+    bool variantList(int depth);
+    bool color();
+    bool regExp();
+    bool bitArray();
+    bool dateTime();
+    bool timeZone();
+    bool easingCurve();
+    bool jsonValue();
+    bool font();
+    bool image();
+    bool png();
+    bool icon();
+    bool brush();
+    bool pen();
+    bool palette();
+    bool polygon(quint32 pointSize);
+    bool region();
+    bool cursor();
+    bool keySequence();
+    bool textFormat(int depth);
+
+    char* m_data;
+    quint32 m_size;
+    quint32 m_pos = 0;
+};
