@@ -1,0 +1,666 @@
+#include "MenuTreeWidget.h"
+#include "menuTreeModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QApplication>
+#include <QFont>
+#include <QMenu>
+#include <QPixmap>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+
+// Answers every lookup with a marker that names the context, so the test can
+// see under which context a text was looked up.
+class ContextTranslator : public QTranslator
+{
+public:
+    QString translate(const char* context, const char* sourceText, const char* = nullptr,
+                      int = -1) const override
+    {
+        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
+    }
+    bool isEmpty() const override { return false; }
+};
+
+const QString separatorText = QStringLiteral("< Р А З Д Е Л И Т Е Л Ь >");
+
+// File
+//   New, Open, ----, Recent (dynamic), Export >
+//                                        PDF, Image >
+//                                                 PNG, JPEG
+// Edit
+//   Cut, Copy
+// Help (command at top level)
+struct Fixture
+{
+    QMenu root{QStringLiteral("&Commands")};
+    QMenu* file = nullptr;
+    QMenu* recent = nullptr;
+    QMenu* exportMenu = nullptr;
+    QMenu* image = nullptr;
+    QMenu* edit = nullptr;
+    QAction* newAct = nullptr;
+    QAction* open = nullptr;
+    QAction* separator = nullptr;
+    QAction* pdf = nullptr;
+    QAction* png = nullptr;
+    QAction* jpeg = nullptr;
+    QAction* cut = nullptr;
+    QAction* copy = nullptr;
+    QAction* help = nullptr;
+
+    Fixture()
+    {
+        file = root.addMenu(QStringLiteral("&File"));
+        newAct = file->addAction(QStringLiteral("&New"));
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::red);
+        newAct->setIcon(QIcon(pixmap));
+        open = file->addAction(QStringLiteral("&Open && Close"));
+        separator = file->addSeparator();
+        recent = file->addMenu(QStringLiteral("&Recent"));
+        recent->addAction(QStringLiteral("one.txt"));
+        recent->addAction(QStringLiteral("two.txt"));
+        recent->menuAction()->setProperty("isDynamic", true);
+        exportMenu = file->addMenu(QStringLiteral("E&xport"));
+        pdf = exportMenu->addAction(QStringLiteral("PDF"));
+        image = exportMenu->addMenu(QStringLiteral("Image"));
+        png = image->addAction(QStringLiteral("PNG"));
+        jpeg = image->addAction(QStringLiteral("JPEG"));
+        edit = root.addMenu(QStringLiteral("&Edit"));
+        cut = edit->addAction(QStringLiteral("Cu&t"));
+        copy = edit->addAction(QStringLiteral("&Copy"));
+        help = root.addAction(QStringLiteral("&Help"));
+    }
+};
+
+QModelIndex findIndex(const QAbstractItemModel& model, const QAction* action,
+                      const QModelIndex& parent = QModelIndex())
+{
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        if (MenuTreeModel::actionForIndex(index) == action)
+            return index;
+        const QModelIndex found = findIndex(model, action, index);
+        if (found.isValid())
+            return found;
+    }
+    return QModelIndex();
+}
+
+class ExposedModel : public MenuTreeModel
+{
+public:
+    using MenuTreeModel::MenuTreeModel;
+    QModelIndex make(int row, int column, QAction* action) const
+    {
+        return createIndex(row, column, action);
+    }
+};
+
+} // namespace
+
+class TestMenuTree : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qRegisterMetaType<QAction*>(); }
+    void testerOnNestedMenu();
+    void testerOnEmptyAndNullMenu();
+    void testerAcrossSetMenu();
+    void structure();
+    void parentOfNestedItems();
+    void indexOutOfRange();
+    void dynamicMenuIsSelectableLeaf();
+    void isDynamicFalseOrInvalidIsCategory();
+    void separatorItem();
+    void ampersandsRemoved();
+    void categoryBoldCommandPlain();
+    void decorationIsIcon();
+    void flags();
+    void headerShowsRootTitle();
+    void setMenuNullEmptiesTree();
+    void setMenuResets();
+    void readsLiveMenu();
+    void separatorTranslatedInFileContext();
+    void actionInTwoSubmenusHasFirstParent();
+    void foreignMenuActionGivesRowMinusOne();
+
+    void widgetConstruction();
+    void widgetExpandsAll();
+    void widgetSetMenu();
+    void widgetClickEmitsCurrentActionChanged();
+    void widgetClickOnCategoryOrSeparatorKeepsCurrent();
+    void widgetCurrentClearedEmitsNull();
+    void widgetDoubleClickCommand();
+    void widgetDoubleClickDynamicMenu();
+    void widgetDoubleClickCategoryOrSeparator();
+    void widgetDoubleClickedNotCurrentIgnored();
+};
+
+void TestMenuTree::testerOnNestedMenu()
+{
+    Fixture f;
+    // An action in a menu that is also reachable a second way would break the
+    // tree's parent/child symmetry; the fixture has none.
+    MenuTreeModel model(&f.root);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QVERIFY(!QTest::currentTestFailed());
+}
+
+void TestMenuTree::testerOnEmptyAndNullMenu()
+{
+    QMenu empty(QStringLiteral("Empty"));
+    MenuTreeModel model(&empty);
+    {
+        QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(model.rowCount(), 0);
+    }
+    MenuTreeModel nullModel(nullptr);
+    {
+        QAbstractItemModelTester tester(&nullModel, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(nullModel.rowCount(), 0);
+        QVERIFY(!nullModel.index(0, 0).isValid());
+    }
+}
+
+void TestMenuTree::testerAcrossSetMenu()
+{
+    Fixture f;
+    QMenu other(QStringLiteral("Other"));
+    other.addAction(QStringLiteral("A"));
+    other.addSeparator();
+    other.addMenu(QStringLiteral("Sub"))->addAction(QStringLiteral("B"));
+    MenuTreeModel model(nullptr);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+    model.setMenu(&f.root);
+    model.setMenu(&other);
+    model.setMenu(nullptr);
+    model.setMenu(&f.root);
+    QCOMPARE(model.rowCount(), 3);
+}
+
+void TestMenuTree::structure()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QCOMPARE(model.rowCount(), 3);
+    QCOMPARE(model.columnCount(), 1);
+    const QModelIndex file = model.index(0, 0);
+    QCOMPARE(MenuTreeModel::actionForIndex(file), f.file->menuAction());
+    QCOMPARE(file.internalPointer(), static_cast<void*>(f.file->menuAction()));
+    QCOMPARE(model.rowCount(file), 5);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.index(2, 0, file)), f.separator);
+    const QModelIndex exportIndex = model.index(4, 0, file);
+    QCOMPARE(MenuTreeModel::actionForIndex(exportIndex), f.exportMenu->menuAction());
+    QCOMPARE(model.rowCount(exportIndex), 2);
+    const QModelIndex image = model.index(1, 0, exportIndex);
+    QCOMPARE(model.rowCount(image), 2);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.index(1, 0, image)), f.jpeg);
+    QCOMPARE(model.rowCount(model.index(2, 0)), 0); // a command
+    QCOMPARE(model.rowCount(model.index(0, 0, file)), 0);
+    QCOMPARE(model.rowCount(file.sibling(0, 0)), 5);
+    // Column 1 never has children.
+    ExposedModel exposed(&f.root);
+    QCOMPARE(exposed.rowCount(exposed.make(0, 0, f.file->menuAction())), 5);
+    QCOMPARE(exposed.rowCount(exposed.make(0, 1, f.file->menuAction())), 0);
+}
+
+void TestMenuTree::parentOfNestedItems()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QModelIndex file = model.index(0, 0);
+    QVERIFY(!model.parent(file).isValid());
+    QVERIFY(!model.parent(QModelIndex()).isValid());
+    QVERIFY(!model.parent(model.index(2, 0)).isValid());
+    const QModelIndex open = model.index(1, 0, file);
+    QCOMPARE(model.parent(open), file);
+    const QModelIndex image = findIndex(model, f.image->menuAction());
+    QCOMPARE(image.row(), 1);
+    const QModelIndex png = findIndex(model, f.png);
+    QCOMPARE(model.parent(png), image);
+    QCOMPARE(model.parent(image).row(), 4);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(image)), f.exportMenu->menuAction());
+    QCOMPARE(model.parent(model.parent(image)), file);
+    const QModelIndex copy = findIndex(model, f.copy);
+    QCOMPARE(copy.row(), 1);
+    QCOMPARE(model.parent(copy).row(), 1);
+}
+
+void TestMenuTree::indexOutOfRange()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QVERIFY(!model.index(3, 0).isValid());
+    QVERIFY(!model.index(-1, 0).isValid());
+    QVERIFY(!model.index(0, 1).isValid());
+    const QModelIndex file = model.index(0, 0);
+    QVERIFY(!model.index(5, 0, file).isValid());
+    QVERIFY(!model.index(0, 0, model.index(2, 0)).isValid()); // a command has no children
+    QVERIFY(!model.data(QModelIndex()).isValid());
+}
+
+void TestMenuTree::dynamicMenuIsSelectableLeaf()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QModelIndex recent = findIndex(model, f.recent->menuAction());
+    QVERIFY(recent.isValid());
+    QCOMPARE(model.rowCount(recent), 0);
+    QVERIFY(!model.hasChildren(recent));
+    QVERIFY(!model.index(0, 0, recent).isValid());
+    QCOMPARE(model.flags(recent), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    QVERIFY(!model.data(recent, Qt::FontRole).isValid());
+    QCOMPARE(model.data(recent).toString(), QStringLiteral("Recent"));
+    // Its own actions are not found as children either.
+    QVERIFY(!findIndex(model, f.recent->actions().first()).isValid());
+}
+
+void TestMenuTree::isDynamicFalseOrInvalidIsCategory()
+{
+    Fixture f;
+    f.recent->menuAction()->setProperty("isDynamic", false);
+    MenuTreeModel model(&f.root);
+    QModelIndex recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 2);
+    QCOMPARE(model.flags(recent), Qt::NoItemFlags);
+
+    // A value that does not convert to a bool counts as not dynamic.
+    f.recent->menuAction()->setProperty("isDynamic", QVariant(QPoint(1, 1)));
+    model.setMenu(&f.root);
+    recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 2);
+
+    f.recent->menuAction()->setProperty("isDynamic", QVariant(QStringLiteral("false")));
+    model.setMenu(&f.root);
+    recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 2);
+
+    f.recent->menuAction()->setProperty("isDynamic", QVariant(QStringLiteral("true")));
+    model.setMenu(&f.root);
+    recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 0);
+
+    f.recent->menuAction()->setProperty("isDynamic", 1);
+    model.setMenu(&f.root);
+    recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 0);
+
+    f.recent->menuAction()->setProperty("isDynamic", QVariant());
+    model.setMenu(&f.root);
+    recent = findIndex(model, f.recent->menuAction());
+    QCOMPARE(model.rowCount(recent), 2);
+}
+
+void TestMenuTree::separatorItem()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QModelIndex separator = model.index(2, 0, model.index(0, 0));
+    QCOMPARE(MenuTreeModel::actionForIndex(separator), f.separator);
+    QCOMPARE(model.data(separator).toString(), separatorText);
+    const QVariant tip = model.data(separator, Qt::StatusTipRole);
+    QVERIFY(tip.isValid());
+    QCOMPARE(tip.toString(), QString());
+    QCOMPARE(model.flags(separator), Qt::NoItemFlags);
+    QVERIFY(!model.data(separator, Qt::FontRole).isValid());
+    QVERIFY(!model.data(separator, Qt::ToolTipRole).isValid());
+    QCOMPARE(model.rowCount(separator), 0);
+}
+
+void TestMenuTree::ampersandsRemoved()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QModelIndex file = model.index(0, 0);
+    QCOMPARE(model.data(file).toString(), QStringLiteral("File"));
+    QCOMPARE(model.data(model.index(0, 0, file)).toString(), QStringLiteral("New"));
+    // A literal ampersand ("&&") vanishes wholly.
+    const QModelIndex open = model.index(1, 0, file);
+    QCOMPARE(model.data(open).toString(), QStringLiteral("Open  Close"));
+    QCOMPARE(model.data(open, Qt::StatusTipRole).toString(), QStringLiteral("Open  Close"));
+    QCOMPARE(model.data(findIndex(model, f.cut)).toString(), QStringLiteral("Cut"));
+    QCOMPARE(model.data(findIndex(model, f.exportMenu->menuAction())).toString(), QStringLiteral("Export"));
+    QVERIFY(!model.data(open, Qt::EditRole).isValid());
+    QVERIFY(!model.data(open, Qt::UserRole).isValid());
+}
+
+void TestMenuTree::categoryBoldCommandPlain()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QVariant font = model.data(model.index(0, 0), Qt::FontRole);
+    QVERIFY(font.canConvert<QFont>());
+    QCOMPARE(font.value<QFont>().weight(), 75);
+    QVERIFY(font.value<QFont>().bold());
+    QCOMPARE(model.data(findIndex(model, f.image->menuAction()), Qt::FontRole).value<QFont>().weight(), 75);
+    QVERIFY(!model.data(findIndex(model, f.png), Qt::FontRole).isValid());
+    QVERIFY(!model.data(model.index(2, 0), Qt::FontRole).isValid());
+}
+
+void TestMenuTree::decorationIsIcon()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QIcon icon = model.data(findIndex(model, f.newAct), Qt::DecorationRole).value<QIcon>();
+    QVERIFY(!icon.isNull());
+    QCOMPARE(icon.cacheKey(), f.newAct->icon().cacheKey());
+    QVERIFY(model.data(findIndex(model, f.open), Qt::DecorationRole).value<QIcon>().isNull());
+}
+
+void TestMenuTree::flags()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QCOMPARE(model.flags(QModelIndex()), Qt::NoItemFlags);
+    QCOMPARE(model.flags(model.index(0, 0)), Qt::NoItemFlags);
+    QCOMPARE(model.flags(findIndex(model, f.image->menuAction())), Qt::NoItemFlags);
+    QCOMPARE(model.flags(findIndex(model, f.png)), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    QCOMPARE(model.flags(model.index(2, 0)), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    // A disabled command stays selectable in the tree.
+    f.cut->setEnabled(false);
+    QCOMPARE(model.flags(findIndex(model, f.cut)), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+}
+
+void TestMenuTree::headerShowsRootTitle()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("&Commands"));
+    QVERIFY(!model.headerData(0, Qt::Vertical).isValid());
+    QVERIFY(!model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).isValid());
+    MenuTreeWidget tree(nullptr, &f.root);
+    QCOMPARE(tree.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("&Commands"));
+}
+
+void TestMenuTree::setMenuNullEmptiesTree()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    model.setMenu(nullptr);
+    QCOMPARE(reset.count(), 1);
+    QCOMPARE(model.rowCount(), 0);
+    QVERIFY(!model.headerData(0, Qt::Horizontal).isValid());
+    QCOMPARE(model.menu(), static_cast<QMenu*>(nullptr));
+
+    MenuTreeWidget tree(nullptr, &f.root);
+    QVERIFY(tree.model()->rowCount() > 0);
+    tree.setMenu(nullptr);
+    QCOMPARE(tree.model()->rowCount(), 0);
+    QVERIFY(!tree.model()->headerData(0, Qt::Horizontal).isValid());
+}
+
+void TestMenuTree::setMenuResets()
+{
+    Fixture f;
+    QMenu other(QStringLiteral("Other"));
+    other.addAction(QStringLiteral("Only"));
+    MenuTreeModel model(&f.root);
+    QSignalSpy aboutToReset(&model, &QAbstractItemModel::modelAboutToBeReset);
+    QSignalSpy reset(&model, &QAbstractItemModel::modelReset);
+    model.setMenu(&other);
+    QCOMPARE(aboutToReset.count(), 1);
+    QCOMPARE(reset.count(), 1);
+    QCOMPARE(model.menu(), &other);
+    QCOMPARE(model.rowCount(), 1);
+    QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Other"));
+}
+
+void TestMenuTree::readsLiveMenu()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    QCOMPARE(model.rowCount(), 3);
+    // The model copies nothing: texts and counts come from the menu as it is now.
+    f.help->setText(QStringLiteral("&About"));
+    QCOMPARE(model.data(model.index(2, 0)).toString(), QStringLiteral("About"));
+    QAction* added = f.edit->addAction(QStringLiteral("Paste"));
+    model.setMenu(&f.root);
+    const QModelIndex paste = findIndex(model, added);
+    QCOMPARE(paste.row(), 2);
+    QCOMPARE(model.parent(paste), model.index(1, 0));
+    // Moving a command to another category and resetting gives it its new parent.
+    f.edit->removeAction(f.copy);
+    f.image->addAction(f.copy);
+    model.setMenu(&f.root);
+    const QModelIndex copy = findIndex(model, f.copy);
+    QCOMPARE(copy.row(), 2);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.image->menuAction());
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+}
+
+void TestMenuTree::separatorTranslatedInFileContext()
+{
+    Fixture f;
+    ContextTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    MenuTreeModel model(&f.root);
+    const QString text = model.data(model.index(2, 0, model.index(0, 0))).toString();
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(text, QStringLiteral("[menuTreeModel.cpp]") + separatorText);
+    // Command texts are the host's and are not translated here.
+    QCOMPARE(model.data(model.index(0, 0)).toString(), QStringLiteral("File"));
+}
+
+void TestMenuTree::actionInTwoSubmenusHasFirstParent()
+{
+    Fixture f;
+    f.image->addAction(f.cut);
+    MenuTreeModel model(&f.root);
+    const QModelIndex image = findIndex(model, f.image->menuAction());
+    const QModelIndex second = model.index(2, 0, image);
+    QCOMPARE(MenuTreeModel::actionForIndex(second), f.cut);
+    // The depth-first search finds the File > Export > Image entry before Edit.
+    QCOMPARE(model.parent(second), image);
+}
+
+void TestMenuTree::foreignMenuActionGivesRowMinusOne()
+{
+    // A menu shared by two actions answers menuAction() with the last one
+    // given it; when that one is not in the tree, the parent found for the
+    // menu's entries is not under the root.
+    QMenu root(QStringLiteral("Root"));
+    QMenu detached(QStringLiteral("Detached"));
+    QAction* child = detached.addAction(QStringLiteral("Child"));
+    QAction holder(QStringLiteral("Holder"), nullptr);
+    holder.setMenu(&detached);
+    root.addAction(&holder);
+    QAction outside(QStringLiteral("Outside"), nullptr);
+    outside.setMenu(&detached);
+    QCOMPARE(detached.menuAction(), &outside);
+    ExposedModel model(&root);
+    QCOMPARE(model.rowCount(), 1);
+    const QModelIndex holderIndex = model.index(0, 0);
+    QCOMPARE(model.rowCount(holderIndex), 1);
+    const QModelIndex childIndex = model.index(0, 0, holderIndex);
+    QCOMPARE(MenuTreeModel::actionForIndex(childIndex), child);
+    const QModelIndex parent = model.parent(childIndex);
+    QCOMPARE(parent.row(), -1);
+    QVERIFY(!parent.isValid());
+}
+
+void TestMenuTree::widgetConstruction()
+{
+    Fixture f;
+    QWidget host;
+    MenuTreeWidget* tree = new MenuTreeWidget(&host, &f.root);
+    QCOMPARE(tree->parentWidget(), &host);
+    QVERIFY(tree->testAttribute(Qt::WA_MouseTracking));
+    QVERIFY(tree->hasMouseTracking());
+    QCOMPARE(tree->menu(), &f.root);
+    MenuTreeModel* model = qobject_cast<MenuTreeModel*>(tree->model());
+    QVERIFY(model);
+    QCOMPARE(model, tree->menuModel());
+    QCOMPARE(static_cast<QObject*>(model)->parent(), static_cast<QObject*>(tree));
+    QCOMPARE(model->menu(), &f.root);
+
+    MenuTreeWidget empty;
+    QCOMPARE(empty.menu(), static_cast<QMenu*>(nullptr));
+    QCOMPARE(empty.model()->rowCount(), 0);
+}
+
+void TestMenuTree::widgetExpandsAll()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    const QAbstractItemModel* model = tree.model();
+    QVERIFY(tree.isExpanded(model->index(0, 0)));
+    QVERIFY(tree.isExpanded(findIndex(*model, f.exportMenu->menuAction())));
+    QVERIFY(tree.isExpanded(findIndex(*model, f.image->menuAction())));
+    QVERIFY(tree.isExpanded(model->index(1, 0)));
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QVERIFY(tree.visualRect(findIndex(*model, f.jpeg)).isValid());
+}
+
+void TestMenuTree::widgetSetMenu()
+{
+    Fixture f;
+    MenuTreeWidget tree;
+    QCOMPARE(tree.model()->rowCount(), 0);
+    tree.setMenu(&f.root);
+    QCOMPARE(tree.menu(), &f.root);
+    QCOMPARE(tree.model()->rowCount(), 3);
+    QVERIFY(tree.isExpanded(findIndex(*tree.model(), f.image->menuAction())));
+    QVERIFY(tree.isExpanded(tree.model()->index(1, 0)));
+}
+
+void TestMenuTree::widgetClickEmitsCurrentActionChanged()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QSignalSpy spy(&tree, &MenuTreeWidget::currentActionChanged);
+    const QModelIndex png = findIndex(*tree.model(), f.png);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(png).center());
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).value<QAction*>(), f.png);
+    QCOMPARE(tree.currentIndex(), png);
+
+    // Keyboard navigation reports the same way.
+    tree.setFocus();
+    QTest::keyClick(tree.viewport(), Qt::Key_Down);
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(1).at(0).value<QAction*>(), f.jpeg);
+
+    const QModelIndex dyn = findIndex(*tree.model(), f.recent->menuAction());
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(dyn).center());
+    QCOMPARE(spy.count(), 3);
+    QCOMPARE(spy.at(2).at(0).value<QAction*>(), f.recent->menuAction());
+}
+
+void TestMenuTree::widgetClickOnCategoryOrSeparatorKeepsCurrent()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    const QModelIndex cut = findIndex(*tree.model(), f.cut);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(cut).center());
+    QCOMPARE(tree.currentIndex(), cut);
+    QSignalSpy spy(&tree, &MenuTreeWidget::currentActionChanged);
+    const QModelIndex edit = tree.model()->index(1, 0);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(edit).center());
+    const QModelIndex separator = findIndex(*tree.model(), f.separator);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(separator).center());
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(tree.currentIndex(), cut);
+    QVERIFY(!tree.selectionModel()->isSelected(separator));
+    QVERIFY(!tree.selectionModel()->isSelected(edit));
+}
+
+void TestMenuTree::widgetCurrentClearedEmitsNull()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.setCurrentIndex(findIndex(*tree.model(), f.pdf));
+    QSignalSpy spy(&tree, &MenuTreeWidget::currentActionChanged);
+    tree.selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).value<QAction*>(), static_cast<QAction*>(nullptr));
+}
+
+void TestMenuTree::widgetDoubleClickCommand()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QSignalSpy spy(&tree, &MenuTreeWidget::actionDoubleClicked);
+    const QModelIndex copy = findIndex(*tree.model(), f.copy);
+    const QPoint pos = tree.visualRect(copy).center();
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(spy.count(), 0);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).value<QAction*>(), f.copy);
+}
+
+void TestMenuTree::widgetDoubleClickDynamicMenu()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QSignalSpy spy(&tree, &MenuTreeWidget::actionDoubleClicked);
+    const QModelIndex recent = findIndex(*tree.model(), f.recent->menuAction());
+    const QPoint pos = tree.visualRect(recent).center();
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(tree.currentIndex(), recent);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0).at(0).value<QAction*>(), f.recent->menuAction());
+    // Still a leaf: double-clicking did not expand anything.
+    QCOMPARE(tree.model()->rowCount(recent), 0);
+}
+
+void TestMenuTree::widgetDoubleClickCategoryOrSeparator()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.resize(300, 600);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    // Start from a current command so that only the double-click target differs.
+    const QModelIndex pdf = findIndex(*tree.model(), f.pdf);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(pdf).center());
+    QSignalSpy spy(&tree, &MenuTreeWidget::actionDoubleClicked);
+    QSignalSpy current(&tree, &MenuTreeWidget::currentActionChanged);
+    const QModelIndex separator = findIndex(*tree.model(), f.separator);
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(separator).center());
+    const QModelIndex image = findIndex(*tree.model(), f.image->menuAction());
+    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier, tree.visualRect(image).center());
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(current.count(), 0);
+    QCOMPARE(tree.currentIndex(), pdf);
+}
+
+void TestMenuTree::widgetDoubleClickedNotCurrentIgnored()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    tree.setCurrentIndex(findIndex(*tree.model(), f.pdf));
+    QSignalSpy spy(&tree, &MenuTreeWidget::actionDoubleClicked);
+    emit tree.doubleClicked(findIndex(*tree.model(), f.png));
+    QCOMPARE(spy.count(), 0);
+    emit tree.doubleClicked(QModelIndex());
+    QCOMPARE(spy.count(), 0);
+    emit tree.doubleClicked(findIndex(*tree.model(), f.pdf));
+    QCOMPARE(spy.count(), 1);
+}
+
+QTEST_MAIN(TestMenuTree)
+#include "tst_menutree.moc"
