@@ -1,0 +1,48 @@
+#pragma once
+
+#include <DynamicMenu.h>
+#include <MainWindow.h>
+
+#include <QString>
+
+#include <vector>
+
+class QActionGroup;
+class QStyle;
+
+namespace demo {
+
+/// A new style object for a ui::MainWindow::Style value; the plain Qt
+/// "Fusion" style for UnknownStyle and any value outside the ribbon families.
+QStyle* createStyle(int style);
+
+/// A readable label such as "Office 2016 — Dark Gray".
+QString styleLabel(int style);
+
+/// Whether the value names one of the styles the window offers.
+bool isKnownStyle(int style, const std::vector<ui::MainWindow::Style>& supported);
+
+/// Installs a new application style for the value.
+void applyStyle(int style);
+
+/// A menu of every style the window offers, rebuilt at each opening with the
+/// window's current style checked. Choosing an entry emits styleChosen().
+class StyleMenu : public ui::DynamicMenu
+{
+    Q_OBJECT
+public:
+    StyleMenu(ui::MainWindow* window, std::vector<ui::MainWindow::Style> styles, QWidget* parent = nullptr);
+
+signals:
+    void styleChosen(int style);
+
+protected:
+    void updateContents() override;
+
+private:
+    ui::MainWindow* m_window;
+    QActionGroup* m_group = nullptr;
+    std::vector<ui::MainWindow::Style> m_styles;
+};
+
+} // namespace demo

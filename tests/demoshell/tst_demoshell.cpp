@@ -1,0 +1,227 @@
+#include "DemoDocks.h"
+#include "DemoShell.h"
+#include "DemoStyles.h"
+
+#include <DockListMenu.h>
+#include <MainWindow.h>
+#include <MdiArea.h>
+#include <MenuBar.h>
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStyleFactory>
+#include <QTextEdit>
+#include <QToolBar>
+#include <QtTest>
+
+namespace {
+
+class Window : public ui::MainWindow
+{
+public:
+    using ui::MainWindow::getSupportedStyles;
+};
+
+} // namespace
+
+class tst_DemoShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void everySupportedStyleIsReportedBack();
+    void labelsAreReadableAndDistinct();
+    void styleMenuListsAndSwitchesStyles();
+    void parseOptions();
+    void takeOptionsRemovesThemFromArgv();
+    void initialStylePrecedence();
+    void docksAreListedInTheirMenu();
+    void classicMenuBarCarriesMenusAndCornerActions();
+    void windowActionsFollowDocuments();
+};
+
+void tst_DemoShell::cleanup()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+}
+
+void tst_DemoShell::everySupportedStyleIsReportedBack()
+{
+    Window window;
+    const auto styles = window.getSupportedStyles();
+    QCOMPARE(styles.size(), size_t(20));
+    for (ui::MainWindow::Style style : styles) {
+        demo::applyStyle(style);
+        QCOMPARE(window.currentStyle(), style);
+    }
+    // Values outside the families fall back to a plain Qt style.
+    demo::applyStyle(99);
+    QCOMPARE(window.currentStyle(), ui::MainWindow::UnknownStyle);
+}
+
+void tst_DemoShell::labelsAreReadableAndDistinct()
+{
+    Window window;
+    QSet<QString> labels;
+    for (ui::MainWindow::Style style : window.getSupportedStyles()) {
+        const QString label = demo::styleLabel(style);
+        QVERIFY(!label.isEmpty());
+        labels.insert(label);
+    }
+    QCOMPARE(labels.size(), 20);
+    QCOMPARE(demo::styleLabel(42), QStringLiteral("Office 2016 — Dark Gray"));
+    QCOMPARE(demo::styleLabel(0), QStringLiteral("Windows 7 Scenic"));
+    QCOMPARE(demo::styleLabel(20), QStringLiteral("Office 2010 — Black"));
+}
+
+void tst_DemoShell::styleMenuListsAndSwitchesStyles()
+{
+    demo::applyStyle(31);
+    Window window;
+    demo::StyleMenu menu(&window, window.getSupportedStyles());
+    QSignalSpy chosen(&menu, &demo::StyleMenu::styleChosen);
+    for (int round = 0; round < 2; ++round) {
+        menu.popup(QPoint(0, 0));
+        QTRY_VERIFY(menu.isVisible());
+        menu.hide();
+        QList<QAction*> entries;
+        for (QAction* action : menu.actions()) {
+            if (!action->isSeparator())
+                entries << action;
+        }
+        QCOMPARE(entries.size(), 20); // rebuilt, not appended
+        int checked = 0;
+        for (QAction* entry : entries) {
+            if (entry->isChecked()) {
+                ++checked;
+                QCOMPARE(entry->text(), demo::styleLabel(31));
+            }
+        }
+        QCOMPARE(checked, 1);
+        if (round == 0) {
+            // Order of the window's list: the 9th entry is Office 2010 Black.
+            QCOMPARE(entries.at(8)->text(), demo::styleLabel(20));
+            entries.at(14)->trigger();
+            QCOMPARE(chosen.count(), 1);
+            QCOMPARE(chosen.at(0).at(0).toInt(), 42);
+        }
+    }
+}
+
+void tst_DemoShell::parseOptions()
+{
+    auto options = demo::parseShellOptions({"demo", "--classic", "--style", "42", "file.txt"});
+    QVERIFY(options.classic);
+    QVERIFY(options.hasStyle);
+    QCOMPARE(options.style, 42);
+    QVERIFY(options.error.isEmpty());
+
+    options = demo::parseShellOptions({"demo", "--style=13"});
+    QVERIFY(!options.classic);
+    QCOMPARE(options.style, 13);
+
+    options = demo::parseShellOptions({"demo", "--style", "dark"});
+    QVERIFY(!options.hasStyle);
+    QVERIFY(!options.error.isEmpty());
+
+    options = demo::parseShellOptions({"demo", "--style"});
+    QVERIFY(!options.hasStyle);
+    QVERIFY(!options.error.isEmpty());
+}
+
+void tst_DemoShell::takeOptionsRemovesThemFromArgv()
+{
+    QByteArray args[] = {"demo", "--style", "52", "a.txt", "--classic", "--style=10", "b.txt"};
+    char* argv[8];
+    for (int i = 0; i < 7; ++i)
+        argv[i] = args[i].data();
+    argv[7] = nullptr;
+    int argc = 7;
+    const demo::ShellOptions options = demo::takeShellOptions(argc, argv);
+    QVERIFY(options.classic);
+    QCOMPARE(options.style, 10);
+    QCOMPARE(argc, 3);
+    QCOMPARE(QByteArray(argv[0]), QByteArray("demo"));
+    QCOMPARE(QByteArray(argv[1]), QByteArray("a.txt"));
+    QCOMPARE(QByteArray(argv[2]), QByteArray("b.txt"));
+    QCOMPARE(argv[3], nullptr);
+}
+
+void tst_DemoShell::initialStylePrecedence()
+{
+    Window window;
+    const auto supported = window.getSupportedStyles();
+    demo::ShellOptions none;
+    demo::ShellOptions asked;
+    asked.hasStyle = true;
+    asked.style = 52;
+    QCOMPARE(demo::initialStyle(asked, QVariant(31), supported), 52);
+    QCOMPARE(demo::initialStyle(none, QVariant(31), supported), 31);
+    QCOMPARE(demo::initialStyle(none, QVariant(), supported), 40);
+    QCOMPARE(demo::initialStyle(none, QVariant(QStringLiteral("junk")), supported), 40);
+    asked.style = 14; // no such theme
+    QCOMPARE(demo::initialStyle(asked, QVariant(31), supported), 31);
+    asked.style = -1;  // the plain Qt style is offered too
+    QCOMPARE(demo::initialStyle(asked, QVariant(31), supported), -1);
+}
+
+void tst_DemoShell::docksAreListedInTheirMenu()
+{
+    QMainWindow window;
+    window.setCentralWidget(new QTextEdit);
+    const demo::DemoDocks docks = demo::createDocks(&window);
+    auto* menu = new ui::DockListMenu(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    menu->popup(QPoint(0, 0));
+    QTRY_VERIFY(menu->isVisible());
+    menu->hide();
+    QCOMPARE(menu->actions(), (QList<QAction*>{docks.outline->toggleViewAction(),
+                                               docks.properties->toggleViewAction(),
+                                               docks.log->toggleViewAction()}));
+    demo::appendLog(docks, QStringLiteral("hello"));
+    QVERIFY(docks.logView->toPlainText().endsWith(QStringLiteral("hello")));
+}
+
+void tst_DemoShell::classicMenuBarCarriesMenusAndCornerActions()
+{
+    QMainWindow window;
+    auto* area = new ui::MdiArea;
+    window.setCentralWidget(area);
+    QMenu file(QStringLiteral("File"));
+    QMenu view(QStringLiteral("View"));
+    const demo::WindowActions actions = demo::createWindowActions(area, &window);
+    QAction help(demo::helpIcon(), QStringLiteral("Help"), nullptr);
+    ui::MenuBar* bar = demo::installClassicMenuBar(&window, {&file, &view}, actions.corner() << &help);
+    QCOMPARE(window.menuWidget(), bar);
+    QCOMPARE(bar->findChild<QMenuBar*>()->actions(), (QList<QAction*>{file.menuAction(), view.menuAction()}));
+    QCOMPARE(bar->findChild<QToolBar*>()->actions(), actions.corner() << &help);
+    for (QAction* action : actions.corner())
+        QVERIFY(!action->icon().isNull());
+}
+
+void tst_DemoShell::windowActionsFollowDocuments()
+{
+    QMainWindow window;
+    auto* area = new ui::MdiArea;
+    window.setCentralWidget(area);
+    const demo::WindowActions actions = demo::createWindowActions(area, &window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(!actions.closeActive->isEnabled());
+    for (int i = 0; i < 2; ++i)
+        area->addSubWindow(new QTextEdit)->show();
+    QTRY_VERIFY(actions.closeActive->isEnabled());
+    QVERIFY(actions.next->isEnabled());
+    actions.closeAll->trigger();
+    QTRY_VERIFY(area->subWindowList().isEmpty());
+    QTRY_VERIFY(!actions.closeActive->isEnabled());
+    QCOMPARE(area->viewMode(), QMdiArea::TabbedView);
+}
+
+QTEST_MAIN(tst_DemoShell)
+#include "tst_demoshell.moc"
