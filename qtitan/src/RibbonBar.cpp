@@ -45,11 +45,12 @@ public:
     bool frameTheme = false;
     bool minimized = false;
     int hoverTab = -1;
+    bool restoredByPress = false;
     QVector<QRect> tabRects;
 
     static QString pageTitle(const RibbonPage* page)
     {
-        return page ? page->property("title").toString() : QString();
+        return page ? page->title() : QString();
     }
 
     bool quickAccessShown() const
@@ -180,7 +181,7 @@ public:
         page->setParent(q);
         page->hide();
         pages.insert(index, page);
-        QObject::connect(page, SIGNAL(titleChanged(QString)), watcher, SLOT(relayout()));
+        QObject::connect(page, &RibbonPage::titleChanged, watcher, &RibbonBarWatcher::relayout);
         destroyWatch.insert(page, QObject::connect(page, &QObject::destroyed, q, [this, page]() { forget(page); }));
     }
 
@@ -298,6 +299,18 @@ RibbonBar::~RibbonBar()
     d = nullptr;
 }
 
+RibbonPage* RibbonBar::addPage(const QString& text)
+{
+    return insertPage(d->pages.size(), text);
+}
+
+RibbonPage* RibbonBar::insertPage(int index, const QString& text)
+{
+    auto* page = new RibbonPage(this, text);
+    insertPage(index, page);
+    return page;
+}
+
 void RibbonBar::addPage(RibbonPage* page)
 {
     insertPage(d->pages.size(), page);
@@ -311,7 +324,8 @@ void RibbonBar::insertPage(int index, RibbonPage* page)
         if (other != this)
             other->detachPage(page);
     }
-    index = qBound(0, index, d->pages.size());
+    if (index < 0 || index > d->pages.size())
+        index = d->pages.size();
     d->attach(index, page);
     if (d->current < 0)
         d->setCurrent(index, true);
@@ -391,6 +405,13 @@ QList<RibbonPage*> RibbonBar::pages() const
 int RibbonBar::currentPageIndex() const
 {
     return d->current;
+}
+
+QRect RibbonBar::tabRect(int index) const
+{
+    if (d->tabRects.size() != d->pages.size())
+        d->layout();
+    return d->tabRects.value(index);
 }
 
 void RibbonBar::setCurrentPageIndex(int index)
@@ -575,10 +596,17 @@ void RibbonBar::resizeEvent(QResizeEvent* event)
 
 void RibbonBar::mousePressEvent(QMouseEvent* event)
 {
+    d->restoredByPress = false;
     if (event->button() == Qt::LeftButton) {
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
             setCurrentPageIndex(tab);
+            // A click on a tab brings a minimised page area back; the double
+            // click that may follow must not hide it again.
+            if (d->minimized) {
+                setMinimized(false);
+                d->restoredByPress = true;
+            }
             event->accept();
             return;
         }
@@ -592,7 +620,9 @@ void RibbonBar::mouseDoubleClickEvent(QMouseEvent* event)
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
             setCurrentPageIndex(tab);
-            setMinimized(!d->minimized);
+            if (!d->restoredByPress)
+                setMinimized(!d->minimized);
+            d->restoredByPress = false;
             event->accept();
             return;
         }

@@ -60,7 +60,8 @@ RibbonColors build(const Seed& seed)
         c.buttonCheckedBackground = mix(seed.accent, white, 0.72);
         c.buttonCheckedBorder = mix(seed.accent, white, 0.4);
     }
-    c.systemButtonBackground = seed.accent;
+    // A system button in the frame's own colour would not stand out from the tabs.
+    c.systemButtonBackground = seed.accent == seed.frame ? mix(seed.accent, black, 0.18) : seed.accent;
     c.systemButtonText = isDark(seed.accent) ? white : black;
     c.quickAccessBackground = seed.frame;
     if (darkPage) {

@@ -41,6 +41,8 @@ public:
     int pageCount() const;
     QList<RibbonPage*> pages() const;
     int currentPageIndex() const;
+    /// The tab of a page in the bar's coordinates; empty for a bad index.
+    QRect tabRect(int index) const;
 
     QAction* addSystemButton(const QIcon& icon, const QString& text);
     QAction* addSystemButton(const QString& text);
