@@ -172,6 +172,16 @@ RibbonControl* RibbonGroup::Private::createControl(QAction* action)
         control = button;
     }
     control->hide();
+    // A control deleted by someone else leaves the group.
+    QObject::connect(control, &QObject::destroyed, q, [this](QObject* object) {
+        for (int i = 0; i < entries.size(); ++i) {
+            if (entries.at(i).control == object) {
+                entries.remove(i);
+                invalidate();
+                break;
+            }
+        }
+    });
     control->setDefaultAction(action);
     if (current == RibbonControlSizeDefinition::GroupPopup && popup)
         control->setParent(popup);
@@ -182,6 +192,7 @@ void RibbonGroup::Private::disposeControl(RibbonControl* control)
 {
     // Deleted later: the control's button may be in the middle of emitting
     // the click that removed its action.
+    QObject::disconnect(control, &QObject::destroyed, q, nullptr);
     control->setDefaultAction(nullptr);
     control->hide();
     control->setParent(nullptr);
@@ -384,6 +395,11 @@ RibbonGroup::~RibbonGroup()
         d->popup->disconnect(this);
         d->popup->hide();
     }
+    for (const Private::Entry& entry : qAsConst(d->entries)) {
+        QObject::disconnect(entry.control, nullptr, this, nullptr);
+        if (auto* button = qobject_cast<RibbonButtonControl*>(entry.control))
+            QObject::disconnect(button->widget(), nullptr, this, nullptr);
+    }
     d->entries.clear();
     delete d;
     d = nullptr;
@@ -526,18 +542,6 @@ bool RibbonGroup::event(QEvent* event)
     case QEvent::StyleChange:
         d->invalidate();
         break;
-    case QEvent::ChildRemoved: {
-        // A control deleted by someone else leaves the group.
-        auto* child = static_cast<QChildEvent*>(event)->child();
-        for (int i = 0; i < d->entries.size(); ++i) {
-            if (d->entries.at(i).control == child) {
-                d->entries.remove(i);
-                d->invalidate();
-                break;
-            }
-        }
-        break;
-    }
     default:
         break;
     }

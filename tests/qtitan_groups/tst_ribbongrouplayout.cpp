@@ -1,0 +1,405 @@
+// Layout of a ribbon page: groups shrink from the right through the group
+// sizes as the page narrows, and no control is ever clipped or overlapped.
+#include "ribbonsample.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPointer>
+#include <QToolButton>
+#include <QtTest>
+
+using namespace Qtitan;
+using Size = RibbonControlSizeDefinition;
+
+namespace {
+
+QList<Size::GroupSize> sizesOf(const RibbonPage& page)
+{
+    QList<Size::GroupSize> sizes;
+    for (RibbonGroup* g : page.groups())
+        sizes << g->currentSize();
+    return sizes;
+}
+
+QString describe(const QList<Size::GroupSize>& sizes)
+{
+    QStringList parts;
+    for (Size::GroupSize s : sizes)
+        parts << QString::number(int(s));
+    return parts.join(QLatin1Char(','));
+}
+
+// The rectangle of a widget in the coordinates of an ancestor.
+QRect rectIn(const QWidget* widget, const QWidget* ancestor)
+{
+    return QRect(widget->mapTo(ancestor, QPoint(0, 0)), widget->size());
+}
+
+} // namespace
+
+class TestRibbonGroupLayout : public QObject
+{
+    Q_OBJECT
+
+private:
+    void checkInvariants(RibbonPage& page)
+    {
+        const QList<RibbonGroup*> groups = page.groups();
+        int previousRight = -1;
+        for (RibbonGroup* group : groups) {
+            QVERIFY(group->isVisible());
+            // Groups sit side by side without overlapping, in list order.
+            QVERIFY2(group->x() > previousRight, qPrintable(group->title()));
+            previousRight = group->geometry().right();
+            QCOMPARE(group->width(), group->widthForSize(group->currentSize()));
+
+            QVector<QRect> rects;
+            for (int i = 0; i < group->controlCount(); ++i) {
+                RibbonControl* control = group->controlByIndex(i);
+                QCOMPARE(control->currentSize(), group->currentSize());
+                if (group->currentSize() == Size::GroupPopup) {
+                    // Collapsed: the controls wait in the popup, not in the group.
+                    QVERIFY(control->window() != page.window());
+                    continue;
+                }
+                QVERIFY2(control->isVisible(), qPrintable(group->title()));
+                const QRect r = rectIn(control, group);
+                QVERIFY2(group->rect().contains(r),
+                         qPrintable(QStringLiteral("%1 control %2").arg(group->title()).arg(i)));
+                // Never clipped: at least the size the control asks for.
+                QVERIFY(control->width() >= control->sizeHint().width());
+                QVERIFY(control->height() >= control->sizeHint().height());
+                if (auto* button = qobject_cast<RibbonButtonControl*>(control))
+                    QCOMPARE(button->widget()->geometry(), control->rect());
+                for (const QRect& other : rects)
+                    QVERIFY2(!other.intersects(r), qPrintable(group->title()));
+                rects << r;
+            }
+        }
+        // Sizes never grow to the right; nothing goes below GroupMedium before
+        // every group is at GroupMedium; only one group at a time is at GroupSmall.
+        const QList<Size::GroupSize> sizes = sizesOf(page);
+        for (int i = 1; i < sizes.size(); ++i)
+            QVERIFY2(sizes[i - 1] <= sizes[i], qPrintable(describe(sizes)));
+        if (!sizes.isEmpty() && sizes.last() >= Size::GroupSmall)
+            QVERIFY2(sizes.first() >= Size::GroupMedium, qPrintable(describe(sizes)));
+        QVERIFY2(sizes.count(Size::GroupSmall) <= 1, qPrintable(describe(sizes)));
+        // Reduced only as far as needed: the groups fit, or nothing is left to reduce.
+        const bool allCollapsed = std::all_of(sizes.begin(), sizes.end(),
+                                              [](Size::GroupSize s) { return s == Size::GroupPopup; });
+        if (!allCollapsed && !groups.isEmpty())
+            QVERIFY2(groups.last()->geometry().right() < page.width(), qPrintable(describe(sizes)));
+    }
+
+    static void saveShot(QWidget* widget, const QString& name)
+    {
+        const QString dir = qEnvironmentVariable("QTITAN_SHOTS");
+        if (dir.isEmpty())
+            return;
+        QDir().mkpath(dir);
+        QVERIFY(widget->grab().save(dir + QLatin1Char('/') + name + QStringLiteral(".png")));
+    }
+
+private slots:
+    void reductionAtWidths_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("1600") << 1600;
+        QTest::newRow("1000") << 1000;
+        QTest::newRow("700") << 700;
+        QTest::newRow("400") << 400;
+    }
+
+    void reductionAtWidths()
+    {
+        QFETCH(int, width);
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(width, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        page.updateLayout();
+        checkInvariants(page);
+        const QList<Size::GroupSize> sizes = sizesOf(page);
+        if (width >= page.sizeHint().width()) {
+            for (Size::GroupSize s : sizes)
+                QCOMPARE(s, Size::GroupLarge);
+        } else {
+            QVERIFY(sizes.last() != Size::GroupLarge);
+        }
+        saveShot(&page, QStringLiteral("page_%1").arg(width));
+
+        // Widening restores every group.
+        page.resize(2000, page.height());
+        checkInvariants(page);
+        for (Size::GroupSize s : sizesOf(page))
+            QCOMPARE(s, Size::GroupLarge);
+    }
+
+    void reductionOrderStepByStep()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(page.sizeHint().width() + 20, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        const int n = page.groupCount();
+        QList<Size::GroupSize> previous = sizesOf(page);
+        for (Size::GroupSize s : previous)
+            QCOMPARE(s, Size::GroupLarge);
+        // Narrow a few pixels at a time: every change reduces groups from the
+        // right, one size step each, and never enlarges one.
+        QList<QList<Size::GroupSize>> seen;
+        for (int w = page.width(); w >= 150; w -= 3) {
+            page.resize(w, page.height());
+            const QList<Size::GroupSize> sizes = sizesOf(page);
+            for (int i = 0; i < n; ++i)
+                QVERIFY2(sizes[i] >= previous[i], qPrintable(describe(previous) + " -> " + describe(sizes)));
+            if (sizes != previous)
+                seen << sizes;
+            previous = sizes;
+            checkInvariants(page);
+        }
+        QCOMPARE(previous.last(), Size::GroupPopup);
+        QCOMPARE(previous.first(), Size::GroupPopup);
+        // The order of the states: all groups to GroupMedium from the right,
+        // then from the right each group to GroupSmall and on to GroupPopup.
+        QList<QList<Size::GroupSize>> order;
+        for (int k = 1; k <= n; ++k) {
+            QList<Size::GroupSize> state;
+            for (int i = 0; i < n; ++i)
+                state << (i >= n - k ? Size::GroupMedium : Size::GroupLarge);
+            order << state;
+        }
+        for (int j = n - 1; j >= 0; --j) {
+            for (Size::GroupSize at : {Size::GroupSmall, Size::GroupPopup}) {
+                QList<Size::GroupSize> state;
+                for (int i = 0; i < n; ++i)
+                    state << (i < j ? Size::GroupMedium : i == j ? at : Size::GroupPopup);
+                order << state;
+            }
+        }
+        int position = -1;
+        for (const auto& state : seen) {
+            const int at = order.indexOf(state);
+            QVERIFY2(at > position, qPrintable(describe(state)));
+            position = at;
+        }
+
+        // And back: widening restores GroupLarge everywhere.
+        page.resize(page.sizeHint().width() + 20, page.height());
+        for (Size::GroupSize s : sizesOf(page))
+            QCOMPARE(s, Size::GroupLarge);
+        checkInvariants(page);
+    }
+
+    void sizeDefinitionsDriveTheReduction()
+    {
+        RibbonPage page;
+        RibbonGroup* group = page.addGroup(QStringLiteral("Big"));
+        QList<QAction*> actions;
+        for (int i = 0; i < 3; ++i) {
+            actions << sample::action(group, QStringLiteral("Command %1").arg(i), Qt::blue);
+            group->addAction(actions.last(), Qt::ToolButtonTextUnderIcon);
+        }
+        page.resize(1000, 120);
+        page.show();
+        page.updateLayout();
+        // Large: one column each, filling the height.
+        for (QAction* a : actions)
+            QCOMPARE(group->controlByAction(a)->height(), group->controlByAction(a)->sizeHintForSize(Size::GroupLarge).height());
+        QVERIFY(group->widthForSize(Size::GroupMedium) < group->widthForSize(Size::GroupLarge));
+        QVERIFY(group->widthForSize(Size::GroupSmall) < group->widthForSize(Size::GroupMedium));
+        group->setCurrentSize(Size::GroupMedium);
+        // Medium: the three stack in one column.
+        const int x = group->controlByAction(actions[0])->x();
+        for (QAction* a : actions)
+            QCOMPARE(group->controlByAction(a)->x(), x);
+        QVERIFY(group->controlByAction(actions[0])->y() < group->controlByAction(actions[1])->y());
+        QVERIFY(group->controlByAction(actions[1])->y() < group->controlByAction(actions[2])->y());
+
+        // A size definition that keeps the large image keeps the control large.
+        RibbonControl* first = group->controlByAction(actions[0]);
+        first->sizeDefinition(Size::GroupMedium)->setImageSize(Size::ImageLarge);
+        page.updateLayout();
+        group->setCurrentSize(Size::GroupMedium);
+        QVERIFY(first->isLargeAt(Size::GroupMedium));
+        QCOMPARE(first->height(), group->controlByAction(actions[0])->sizeHintForSize(Size::GroupLarge).height());
+        QVERIFY(group->controlByAction(actions[1])->x() > first->geometry().right());
+    }
+
+    void widgetActionsSitInRows()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(2000, page.sizeHint().height());
+        page.show();
+        page.updateLayout();
+        RibbonGroup* font = page.groupAt(1);
+        QWidget* combo = nullptr;
+        for (QAction* a : font->actions()) {
+            if (auto* control = qobject_cast<RibbonWidgetControl*>(font->controlByAction(a))) {
+                combo = control->contentWidget();
+                QVERIFY(combo);
+                QVERIFY(control->width() >= combo->sizeHint().width());
+                QVERIFY(control->height() * 2 < font->height());
+                QVERIFY(combo->isVisible());
+                break;
+            }
+        }
+        QVERIFY(combo);
+    }
+
+    void collapsedGroupOpensPopup()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(300, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        page.updateLayout();
+        RibbonGroup* group = page.groupAt(page.groupCount() - 1);
+        QCOMPARE(group->currentSize(), Size::GroupPopup);
+        RibbonControl* control = group->controlByIndex(0);
+        QVERIFY(!control->isVisible());
+        // The collapsed group is one button showing the group.
+        auto* button = group->findChild<QAbstractButton*>(QStringLiteral("qtitan_ribbongroup_button"));
+        QVERIFY(button);
+        QVERIFY(button->isVisible());
+        QCOMPARE(button->geometry(), group->rect());
+        QTest::mouseClick(button, Qt::LeftButton);
+        QWidget* popup = control->window();
+        QVERIFY(popup != page.window());
+        QVERIFY(popup->isVisible());
+        QVERIFY(popup->windowFlags() & Qt::Popup);
+        // Under the group's button, holding every control at GroupPopup, unclipped.
+        const QPoint under = button->mapToGlobal(QPoint(0, button->height()));
+        QVERIFY(qAbs(popup->geometry().top() - under.y()) <= 3);
+        QVERIFY(qAbs(popup->geometry().left() - under.x()) <= 3);
+        QVector<QRect> rects;
+        for (int i = 0; i < group->controlCount(); ++i) {
+            RibbonControl* c = group->controlByIndex(i);
+            QCOMPARE(c->window(), popup);
+            QVERIFY(c->isVisible());
+            QCOMPARE(c->currentSize(), Size::GroupPopup);
+            const QRect r = rectIn(c, popup);
+            QVERIFY(popup->rect().contains(r));
+            for (const QRect& other : rects)
+                QVERIFY(!other.intersects(r));
+            rects << r;
+        }
+        // The button finder of the ribbon helpers still sees the buttons in the group.
+        auto* buttonControl = qobject_cast<RibbonButtonControl*>(control);
+        QVERIFY(group->findChildren<QToolButton*>().contains(buttonControl->widget()));
+        saveShot(popup, QStringLiteral("popup_open"));
+
+        // Running a command from the popup closes it.
+        QSignalSpy triggered(control->defaultAction(), &QAction::triggered);
+        QTest::mouseClick(buttonControl->widget(), Qt::LeftButton);
+        QCOMPARE(triggered.count(), 1);
+        QVERIFY(!popup->isVisible());
+
+        // Widening brings the controls back into the group.
+        page.resize(2000, page.height());
+        QCOMPARE(group->currentSize(), Size::GroupLarge);
+        QCOMPARE(control->window(), page.window());
+        QVERIFY(control->isVisible());
+        QVERIFY(!button->isVisible());
+    }
+
+    void actionsAddedWhileCollapsed()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(300, page.sizeHint().height());
+        page.show();
+        page.updateLayout();
+        RibbonGroup* group = page.groupAt(page.groupCount() - 1);
+        QCOMPARE(group->currentSize(), Size::GroupPopup);
+        QAction* added = sample::action(group, QStringLiteral("Late"), Qt::red);
+        group->insertAction(group->actions().first(), added);
+        page.updateLayout();
+        QCOMPARE(group->controlByIndex(0)->defaultAction(), added);
+        QVERIFY(group->controlByIndex(0)->window() != page.window());
+        page.resize(2000, page.height());
+        QCOMPARE(group->controlByIndex(0)->window(), page.window());
+        checkInvariants(page);
+    }
+
+    void hiddenActionsTakeNoSpace()
+    {
+        RibbonPage page;
+        RibbonGroup* group = page.addGroup(QStringLiteral("G"));
+        QAction* a = sample::action(group, QStringLiteral("Alpha"), Qt::red);
+        QAction* b = sample::action(group, QStringLiteral("Beta"), Qt::green);
+        group->addAction(a, Qt::ToolButtonTextUnderIcon);
+        group->addAction(b, Qt::ToolButtonTextUnderIcon);
+        page.resize(1000, 120);
+        page.show();
+        page.updateLayout();
+        const int both = group->width();
+        b->setVisible(false);
+        page.updateLayout();
+        QVERIFY(group->width() < both);
+        QVERIFY(!group->controlByAction(b)->isVisible());
+        b->setVisible(true);
+        page.updateLayout();
+        QCOMPARE(group->width(), both);
+        QVERIFY(group->controlByAction(b)->isVisible());
+    }
+
+    void layoutFollowsPlainQWidgetEditsAfterEvents()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(2000, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        RibbonGroup* group = page.groupAt(0);
+        const int before = group->width();
+        QAction* extra = sample::action(group, QStringLiteral("Extra large command"), Qt::darkCyan);
+        group->addAction(extra);
+        // No explicit updateLayout(): the page follows on its own.
+        QTRY_VERIFY(group->width() > before);
+        checkInvariants(page);
+        group->removeAction(extra);
+        QTRY_COMPARE(group->width(), before);
+        checkInvariants(page);
+    }
+
+    void shotsInStyles_data()
+    {
+        QTest::addColumn<int>("style");
+        QTest::newRow("office2016") << 0;
+        QTest::newRow("office2010-black") << 1;
+        QTest::newRow("office2013-dark") << 2;
+    }
+
+    void shotsInStyles()
+    {
+        QFETCH(int, style);
+        CommonStyle* s = nullptr;
+        if (style == 0)
+            s = new Office2016Style(Office2016Style::Colorful);
+        else if (style == 1)
+            s = new Office2010Style(Office2010Style::Black);
+        else
+            s = new Office2013Style(Office2013Style::Dark);
+        QApplication::setStyle(s);
+        for (int width : {1600, 900, 640, 420}) {
+            RibbonPage page;
+            page.setStyle(s);
+            sample::fillHomePage(&page);
+            page.resize(width, page.sizeHint().height());
+            page.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&page));
+            page.updateLayout();
+            checkInvariants(page);
+            saveShot(&page, QStringLiteral("style%1_%2").arg(style).arg(width));
+        }
+        QApplication::setStyle(QStringLiteral("Fusion"));
+    }
+};
+
+QTEST_MAIN(TestRibbonGroupLayout)
+#include "tst_ribbongrouplayout.moc"
