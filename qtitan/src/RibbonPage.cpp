@@ -186,22 +186,17 @@ void RibbonPage::updateLayout()
             widths[i][s] = d->groups.at(i)->widthForSize(static_cast<GroupSize>(s));
         total += widths[i][0] + (i > 0 ? int(detail::GroupGap) : 0);
     }
-    // First every group, from the right, gives up its large images
-    // (GroupMedium); then, again from the right, each group drops to
-    // GroupSmall and then collapses to GroupPopup before its left neighbour is
-    // touched. Sizes never decrease to the right, and groups keep their labels
-    // as long as possible.
+    // Reduce one size step at a time, rightmost group first: every group
+    // drops to GroupMedium (from the right) before any drops to GroupSmall,
+    // and so on down to GroupPopup. Sizes never decrease to the right, no two
+    // groups are more than one step apart, and every group stays in sight
+    // for as long as possible.
     const int available = width() - 2 * detail::PageMargin;
-    auto reduce = [&](int i, GroupSize size) {
-        total += widths[i][size] - widths[i][sizes[i]];
-        sizes[i] = size;
-    };
-    for (int i = n - 1; i >= 0 && total > available; --i)
-        reduce(i, RibbonControlSizeDefinition::GroupMedium);
-    for (int i = n - 1; i >= 0 && total > available; --i) {
-        reduce(i, RibbonControlSizeDefinition::GroupSmall);
-        if (total > available)
-            reduce(i, RibbonControlSizeDefinition::GroupPopup);
+    for (int level = 1; level < 4 && total > available; ++level) {
+        for (int i = n - 1; i >= 0 && total > available; --i) {
+            total += widths[i][level] - widths[i][sizes[i]];
+            sizes[i] = static_cast<GroupSize>(level);
+        }
     }
     d->separators.clear();
     int x = detail::PageMargin;
