@@ -5,8 +5,10 @@
 #include <QApplication>
 #include <QMenu>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QWidget>
 
 namespace Qtitan {
@@ -98,13 +100,49 @@ void CommonStyle::polish(QPalette& palette)
     }
 }
 
+namespace {
+
+const char* const TabTextProperty = "qtitan_tabTextPolished";
+
+// A style sheet that paints light tabs over a dark scheme leaves their text in
+// the scheme's light colour; those tab bars get dark text.
+bool hasLightStyledTabs(const QWidget* widget)
+{
+    const auto* tabBar = qobject_cast<const QTabBar*>(widget);
+    if (!tabBar || tabBar->styleSheet().isEmpty())
+        return false;
+    const QString sheet = tabBar->styleSheet();
+    return sheet.contains(QLatin1String("QTabBar::tab")) && sheet.contains(QLatin1String("background"))
+           && !sheet.contains(QRegularExpression(QStringLiteral("(^|[^-\\w])color\\s*:")));
+}
+
+} // namespace
+
 void CommonStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
+    if (hasLightStyledTabs(widget)) {
+        const RibbonColors c = ribbonColors();
+        if (Scheme::isDark(c.pageBackgroundBottom)) {
+            QPalette palette = widget->palette();
+            const QColor text(0x1E, 0x1E, 0x1E);
+            for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+                palette.setColor(group, QPalette::WindowText, text);
+                palette.setColor(group, QPalette::ButtonText, text);
+                palette.setColor(group, QPalette::Text, text);
+            }
+            widget->setPalette(palette);
+            widget->setProperty(TabTextProperty, true);
+        }
+    }
 }
 
 void CommonStyle::unpolish(QWidget* widget)
 {
+    if (widget->property(TabTextProperty).toBool()) {
+        widget->setProperty(TabTextProperty, QVariant());
+        widget->setPalette(QPalette());
+    }
     QProxyStyle::unpolish(widget);
 }
 

@@ -15,6 +15,7 @@
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QWheelEvent>
 
 namespace Qtitan {
@@ -573,15 +574,32 @@ void RibbonBar::paintEvent(QPaintEvent* event)
         const QRect rect = d->tabRects.at(i);
         const QString text = Private::pageTitle(d->pages.at(i));
         if (showSelected && i == d->current) {
-            painter.fillRect(rect.adjusted(0, 0, 0, 1), colors.tabSelectedBackground);
-            painter.setPen(colors.tabBorder);
-            painter.drawLine(rect.left(), rect.bottom(), rect.left(), rect.top());
-            painter.drawLine(rect.left(), rect.top(), rect.right(), rect.top());
-            painter.drawLine(rect.right(), rect.top(), rect.right(), rect.bottom());
+            // Rounded on top, open at the bottom where it joins the page.
+            const QRectF r = QRectF(rect).adjusted(0.5, 0.5, -0.5, 1.0);
+            const qreal radius = 3.0;
+            QPainterPath path;
+            path.moveTo(r.left(), r.bottom());
+            path.lineTo(r.left(), r.top() + radius);
+            path.quadTo(r.left(), r.top(), r.left() + radius, r.top());
+            path.lineTo(r.right() - radius, r.top());
+            path.quadTo(r.right(), r.top(), r.right(), r.top() + radius);
+            path.lineTo(r.right(), r.bottom());
+            painter.save();
+            painter.setRenderHint(QPainter::Antialiasing, true);
+            painter.fillPath(path, colors.tabSelectedBackground);
+            painter.setPen(QPen(colors.tabBorder, 1.0));
+            painter.drawPath(path);
+            painter.restore();
             painter.setPen(colors.tabTextSelected);
         } else {
-            if (i == d->hoverTab)
-                painter.fillRect(rect.adjusted(0, 0, 0, -1), colors.tabHoverBackground);
+            if (i == d->hoverTab) {
+                painter.save();
+                painter.setRenderHint(QPainter::Antialiasing, true);
+                painter.setPen(Qt::NoPen);
+                painter.setBrush(colors.tabHoverBackground);
+                painter.drawRoundedRect(QRectF(rect).adjusted(0, 0, 0, -1), 3.0, 3.0);
+                painter.restore();
+            }
             painter.setPen(colors.tabText);
         }
         painter.drawText(rect, Qt::AlignCenter | Qt::TextHideMnemonic, text);

@@ -10,6 +10,21 @@
 
 namespace Qtitan {
 
+namespace {
+
+// The tool bar deletes the button of a removed action later; until then it
+// would still be found among the bar's children as the action's button.
+void dropStaleButtons(QToolBar* bar, QAction* action)
+{
+    const QList<QToolButton*> buttons = bar->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QToolButton* button : buttons) {
+        if (button->defaultAction() == action && button->isHidden())
+            delete button;
+    }
+}
+
+} // namespace
+
 class RibbonQuickAccessBar::Private
 {
 public:
@@ -60,6 +75,7 @@ void RibbonQuickAccessBar::setActionVisible(QAction* action, bool visible)
         d->hidden.insert(action);
         QActionEvent removed(QEvent::ActionRemoved, action);
         QToolBar::actionEvent(&removed);
+        dropStaleButtons(this, action);
     }
     updateGeometry();
     adjustSize();
@@ -121,6 +137,7 @@ void RibbonQuickAccessBar::actionEvent(QActionEvent* event)
         if (d->hidden.remove(action))
             return;
         QToolBar::actionEvent(event);
+        dropStaleButtons(this, action);
         break;
     default:
         QToolBar::actionEvent(event);

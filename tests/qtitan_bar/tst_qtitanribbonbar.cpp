@@ -173,6 +173,9 @@ private Q_SLOTS:
         QVERIFY(b->isVisible());
         QTRY_COMPARE(visibleButtons(quick).size(), 2);
         QVERIFY(!buttonFor(quick, b));
+        // Not even a hidden leftover: helpers that look buttons up by action find none.
+        for (QToolButton* button : quick->findChildren<QToolButton*>())
+            QVERIFY(button->defaultAction() != b);
 
         // Shown again, its button returns between its neighbours.
         quick->setActionVisible(b, true);

@@ -9,6 +9,7 @@
 #include <QSignalSpy>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTabBar>
 #include <QtTest>
 
 using namespace Qtitan;
@@ -223,6 +224,30 @@ private Q_SLOTS:
         QCOMPARE(QColor(image.pixel(0, 0)).name(), c.menuBorder.name());
         QCOMPARE(QColor(image.pixel(image.width() - 3, image.height() / 2)).name(), c.menuBackground.name());
         delete style;
+    }
+
+    void lightStyledTabsKeepReadableText()
+    {
+        const QString sheet = QStringLiteral("QTabBar::tab { background: #f0f0f0; border: 1px solid black; "
+                                             "border-bottom-color: #C2C7CB; }");
+        Office2016Style dark(Office2016Style::Black);
+        QTabBar tabs;
+        tabs.addTab(QStringLiteral("One"));
+        tabs.setStyle(&dark);
+        tabs.setStyleSheet(sheet);
+        tabs.ensurePolished();
+        QVERIFY(contrast(tabs.palette().color(QPalette::WindowText), QColor(0xf0, 0xf0, 0xf0)) >= 4.5);
+        QVERIFY(contrast(tabs.palette().color(QPalette::ButtonText), QColor(0xf0, 0xf0, 0xf0)) >= 4.5);
+
+        // Without light tabs of its own, a tab bar keeps the scheme's text.
+        QTabBar plain;
+        plain.addTab(QStringLiteral("Two"));
+        plain.setStyle(&dark);
+        plain.ensurePolished();
+        QCOMPARE(plain.palette().color(QPalette::WindowText), QApplication::palette(&plain).color(QPalette::WindowText));
+        QVERIFY(!plain.testAttribute(Qt::WA_SetPalette));
+        tabs.setStyle(nullptr);
+        plain.setStyle(nullptr);
     }
 
     void colorsForWidgets()
