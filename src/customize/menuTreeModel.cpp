@@ -4,7 +4,10 @@
 
 #include <QAction>
 #include <QFont>
+#include <QHash>
 #include <QMenu>
+#include <QPointer>
+#include <QSet>
 
 namespace {
 
@@ -27,15 +30,19 @@ QString plainText(const QAction* action)
     return text;
 }
 
-// Depth first from menu: the menuAction() of the first menu that holds action.
-QAction* findParentAction(const QAction* action, const QMenu* menu)
+// Depth first from menu: the first menu that holds action, and its position
+// there. The parent action is that menu's menuAction().
+QMenu* findHolder(const QAction* action, QMenu* menu, int* row)
 {
     const QList<QAction*> actions = menu->actions();
-    for (QAction* entry : actions) {
-        if (entry == action)
-            return menu->menuAction();
-        if (const QMenu* sub = entry->menu()) {
-            if (QAction* found = findParentAction(action, sub))
+    for (int i = 0; i < actions.size(); ++i) {
+        QAction* entry = actions.at(i);
+        if (entry == action) {
+            *row = i;
+            return menu;
+        }
+        if (QMenu* sub = entry->menu()) {
+            if (QMenu* found = findHolder(action, sub, row))
                 return found;
         }
     }
@@ -44,17 +51,84 @@ QAction* findParentAction(const QAction* action, const QMenu* menu)
 
 } // namespace
 
+// Views ask parent() for every painted or selected row, and a walk from the
+// root costs the whole menu in front of the item. The cache remembers where
+// each action was first met; every answer is checked against the live menu
+// (the holder still has the action at that row) and falls back to the walk
+// when the menu has changed since.
+struct MenuTreeModel::ParentCache
+{
+    struct Place
+    {
+        QPointer<QMenu> holder;
+        int row;
+    };
+    QHash<const QAction*, Place> places;
+    bool dirty = true;
+
+    void rebuild(QMenu* root)
+    {
+        places.clear();
+        QSet<const QMenu*> visited;
+        if (root)
+            add(root, visited);
+        dirty = false;
+    }
+
+    void add(QMenu* menu, QSet<const QMenu*>& visited)
+    {
+        if (visited.contains(menu))
+            return;
+        visited.insert(menu);
+        const QList<QAction*> actions = menu->actions();
+        for (int i = 0; i < actions.size(); ++i) {
+            QAction* entry = actions.at(i);
+            // The walk stops at the first place, so only that one counts.
+            if (!places.contains(entry))
+                places.insert(entry, Place{menu, i});
+            if (QMenu* sub = entry->menu())
+                add(sub, visited);
+        }
+    }
+};
+
 MenuTreeModel::MenuTreeModel(QMenu* menu, QObject* parent)
     : QAbstractItemModel(parent)
     , m_menu(menu)
+    , m_cache(new ParentCache)
 {
 }
+
+MenuTreeModel::~MenuTreeModel() = default;
 
 void MenuTreeModel::setMenu(QMenu* menu)
 {
     beginResetModel();
     m_menu = menu;
+    m_cache->places.clear();
+    m_cache->dirty = true;
     endResetModel();
+}
+
+bool MenuTreeModel::locate(const QAction* action, QMenu** holder, int* row) const
+{
+    if (m_cache->dirty)
+        m_cache->rebuild(m_menu);
+    const auto it = m_cache->places.constFind(action);
+    if (it != m_cache->places.cend()) {
+        QMenu* menu = it->holder.data();
+        if (menu && menu->actions().value(it->row) == action) {
+            *holder = menu;
+            *row = it->row;
+            return true;
+        }
+    }
+    *holder = findHolder(action, m_menu, row);
+    // Found by the walk but not by the cache: the menu changed, so relearn it
+    // on the next lookup.
+    if (*holder || it != m_cache->places.cend())
+        m_cache->dirty = true;
+    return *holder != nullptr;
 }
 
 QMenu* MenuTreeModel::menu() const
@@ -82,12 +156,16 @@ QModelIndex MenuTreeModel::parent(const QModelIndex& index) const
 {
     if (!index.isValid() || !m_menu)
         return QModelIndex();
-    QAction* parentAction = findParentAction(actionForIndex(index), m_menu);
-    if (!parentAction || parentAction->menu() == m_menu)
+    QMenu* holder = nullptr;
+    int row = -1;
+    if (!locate(actionForIndex(index), &holder, &row))
         return QModelIndex();
-    const QAction* grandParent = findParentAction(parentAction, m_menu);
-    const int row = grandParent && grandParent->menu()
-        ? grandParent->menu()->actions().indexOf(parentAction) : -1;
+    QAction* parentAction = holder->menuAction();
+    if (parentAction->menu() == m_menu)
+        return QModelIndex();
+    QMenu* grandHolder = nullptr;
+    if (!locate(parentAction, &grandHolder, &row))
+        row = -1;
     return createIndex(row, 0, parentAction);
 }
 

@@ -4,6 +4,8 @@
 
 #include <QAbstractItemModel>
 
+#include <memory>
+
 class QAction;
 class QMenu;
 
@@ -26,6 +28,7 @@ class TESSARO_EXPORT MenuTreeModel : public QAbstractItemModel
 public:
     /// Creates a model over @p menu (not owned; may be null).
     explicit MenuTreeModel(QMenu* menu, QObject* parent = nullptr);
+    ~MenuTreeModel() override;
 
     /// Resets the model onto @p menu (not owned; may be null).
     void setMenu(QMenu* menu);
@@ -53,5 +56,9 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
+    bool locate(const QAction* action, QMenu** holder, int* row) const;
+
     QMenu* m_menu;
+    struct ParentCache;
+    std::unique_ptr<ParentCache> m_cache;
 };

@@ -127,6 +127,8 @@ private slots:
     void setMenuNullEmptiesTree();
     void setMenuResets();
     void readsLiveMenu();
+    void parentFollowsLiveMenuWithoutReset();
+    void parentOfRemovedActionIsInvalid();
     void separatorTranslatedInFileContext();
     void actionInTwoSubmenusHasFirstParent();
     void foreignMenuActionGivesRowMinusOne();
@@ -434,6 +436,54 @@ void TestMenuTree::readsLiveMenu()
     QCOMPARE(copy.row(), 2);
     QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.image->menuAction());
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+}
+
+void TestMenuTree::parentFollowsLiveMenuWithoutReset()
+{
+    Fixture f;
+    MenuTreeModel model(&f.root);
+    const QModelIndex png = findIndex(model, f.png);
+    QCOMPARE(model.parent(png).row(), 1);
+    QCOMPARE(model.parent(model.parent(png)).row(), 4);
+    QCOMPARE(model.parent(findIndex(model, f.copy)).row(), 1);
+
+    // Shift rows in front of already answered items, without telling the model.
+    QAction* first = new QAction(QStringLiteral("First"), &f.root);
+    f.root.insertAction(f.file->menuAction(), first);
+    QAction* zip = new QAction(QStringLiteral("ZIP"), &f.root);
+    f.exportMenu->insertAction(f.pdf, zip);
+    f.edit->removeAction(f.cut);
+
+    const QModelIndex file = model.index(1, 0);
+    QCOMPARE(MenuTreeModel::actionForIndex(file), f.file->menuAction());
+    const QModelIndex exportIndex = model.index(4, 0, file);
+    const QModelIndex image = model.index(2, 0, exportIndex);
+    QCOMPARE(MenuTreeModel::actionForIndex(image), f.image->menuAction());
+    const QModelIndex pngNow = model.index(0, 0, image);
+    QCOMPARE(model.parent(pngNow), image);
+    QCOMPARE(model.parent(image), exportIndex);
+    QCOMPARE(model.parent(exportIndex), file);
+    const QModelIndex copy = model.index(0, 0, model.index(2, 0));
+    QCOMPARE(MenuTreeModel::actionForIndex(copy), f.copy);
+    QCOMPARE(model.parent(copy).row(), 2);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+}
+
+void TestMenuTree::parentOfRemovedActionIsInvalid()
+{
+    Fixture f;
+    ExposedModel model(&f.root);
+    const QModelIndex jpeg = findIndex(model, f.jpeg);
+    QVERIFY(model.parent(jpeg).isValid());
+    f.image->removeAction(f.jpeg);
+    QVERIFY(!model.parent(jpeg).isValid());
+    // A whole category deleted behind the model's back (its commands go with
+    // it); the stale index's action is only compared, never touched.
+    const QModelIndex cut = findIndex(model, f.cut);
+    QVERIFY(model.parent(cut).isValid());
+    delete f.edit;
+    QVERIFY(!model.parent(cut).isValid());
+    QCOMPARE(model.rowCount(), 2);
 }
 
 void TestMenuTree::separatorTranslatedInFileContext()
