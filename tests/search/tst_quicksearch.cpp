@@ -1,3 +1,4 @@
+#include "CommandsRegistry.h"
 #include "QuickSearch.h"
 
 #include "searchsource.h"
@@ -125,6 +126,8 @@ private Q_SLOTS:
     void destroyingBoxKeepsProxies();
 
     void choosingEntryTriggersRealAction();
+    void choosingEntryRunsCommandThroughRegistry();
+    void registryStateShownInPopup();
     void typingOnPopupContinues();
     void navigationKeysStayWithPopup();
     void escapeReachesBoxAndMenu();
@@ -555,6 +558,81 @@ void tst_QuickSearch::choosingEntryTriggersRealAction()
     QAction* entry = popupAction(box, shown(QStringLiteral("File/Open")));
     QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(entry).center());
     QCOMPARE(triggered.count(), 2);
+}
+
+void tst_QuickSearch::choosingEntryRunsCommandThroughRegistry()
+{
+    ui::CommandsRegistry registry(nullptr);
+    QAction* open = registry.addCommand(QStringLiteral("Open"), 1);
+    QAction* close = registry.addCommand(QStringLiteral("Close"), 2);
+    QList<int> ran;
+    registry.ConnectCommand(1, 2, [&ran](int id) { ran.append(id); });
+    bool closeAllowed = true;
+    registry.ConnectCommandUI(2, [&closeAllowed](ui::CommandState& state) { state.setEnabled(closeAllowed); });
+
+    QMenu file(QStringLiteral("&File"));
+    file.addAction(open);
+    file.addAction(close);
+    QuickSearchWidget box(nullptr);
+    box.setSource({file.menuAction()});
+
+    auto choose = [&box](const QString& query) {
+        type(box, query);
+        QMenu* popup = popupOf(box);
+        QVERIFY(popup->isVisible());
+        QCOMPARE(popup->actions().size(), 1);
+        QTest::keyClick(popup, Qt::Key_Down);
+        QTest::keyClick(popup, Qt::Key_Return);
+    };
+
+    choose(QStringLiteral("open"));
+    QCOMPARE(ran, QList<int>{1});
+
+    // The entry still looks enabled, but the update handler disables the
+    // command when it is triggered, so it does not run.
+    closeAllowed = false;
+    choose(QStringLiteral("close"));
+    QCOMPARE(ran, QList<int>{1});
+    QVERIFY(!close->isEnabled());
+
+    closeAllowed = true;
+    close->setEnabled(true);
+    choose(QStringLiteral("close"));
+    QCOMPARE(ran, (QList<int>{1, 2}));
+}
+
+void tst_QuickSearch::registryStateShownInPopup()
+{
+    ui::CommandsRegistry registry(nullptr);
+    QAction* save = registry.addCommand(QStringLiteral("&Save"), 1);
+    QAction* ruler = registry.addCommand(QStringLiteral("&Ruler"), 2);
+    registry.ConnectCommand(1, 2, [](int) {});
+    bool canSave = true;
+    bool rulerShown = false;
+    registry.ConnectCommandUI(1, [&canSave](ui::CommandState& state) { state.setEnabled(canSave); });
+    registry.ConnectCommandUI(2, [&rulerShown](ui::CommandState& state) { state.setChecked(rulerShown); });
+
+    QMenu file(QStringLiteral("&File"));
+    file.addAction(save);
+    file.addAction(ruler);
+    QuickSearchWidget box(nullptr);
+    box.setSource({file.menuAction()});
+
+    canSave = false;
+    rulerShown = true;
+    // Let the event dispatcher wake up so the registry refreshes its actions.
+    QTest::qWait(10);
+    QVERIFY(!save->isEnabled());
+    QVERIFY(ruler->isChecked());
+
+    type(box, "file");
+    QAction* saveEntry = popupAction(box, shown(QStringLiteral("File/Save")));
+    QAction* rulerEntry = popupAction(box, shown(QStringLiteral("File/Ruler")));
+    QVERIFY(saveEntry);
+    QVERIFY(rulerEntry);
+    QVERIFY(!saveEntry->isEnabled());
+    QVERIFY(rulerEntry->isCheckable());
+    QVERIFY(rulerEntry->isChecked());
 }
 
 void tst_QuickSearch::typingOnPopupContinues()
