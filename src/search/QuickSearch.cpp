@@ -1,5 +1,7 @@
 #include "QuickSearch.h"
 
+#include "QuickSearchIndex_p.h"
+
 #include "TessaroTranslate_p.h"
 
 #include <QAction>
@@ -14,15 +16,11 @@ namespace {
 
 const QChar pathArrow(0x2192);
 
-QString pathSeparator()
-{
-    return QStringLiteral(" %1 ").arg(pathArrow);
-}
-
 } // namespace
 
 QuickSearchWidget::QuickSearchWidget(QWidget* parent)
     : QLineEdit(parent)
+    , m_entries(new QuickSearchIndex)
     , m_popup(new QMenu(this))
 {
     m_popup->installEventFilter(this);
@@ -39,11 +37,7 @@ void QuickSearchWidget::setSource(const QList<QAction*>& actions)
 {
     m_popup->close();
     m_popup->clear();
-    for (const QPointer<QAction>& entry : qAsConst(m_entries)) {
-        if (entry)
-            entry->deleteLater();
-    }
-    m_entries.clear();
+    m_entries->clear();
     setSourceImpl(actions, QString());
 }
 
@@ -64,7 +58,7 @@ void QuickSearchWidget::setSourceImpl(const QList<QAction*>& actions, const QStr
         auto* proxy = new QAction(action->icon(), name, action);
         proxy->setCheckable(action->isCheckable());
         connect(proxy, &QAction::triggered, action, &QAction::trigger);
-        m_entries.append(proxy);
+        m_entries->append(proxy);
     }
 }
 
@@ -77,47 +71,10 @@ void QuickSearchWidget::showResultPopup()
     if (words.isEmpty() || words.first().size() < 3)
         return;
 
-    const QString separator = pathSeparator();
-    QList<QAction*> ranked[4];
-    for (const QPointer<QAction>& entry : qAsConst(m_entries)) {
-        QAction* proxy = entry.data();
-        if (!proxy)
-            continue;
-        if (auto* real = qobject_cast<QAction*>(proxy->parent())) {
-            proxy->setEnabled(real->isEnabled());
-            // The registry makes an action checkable on its first refresh,
-            // which may come after the entry was made.
-            proxy->setCheckable(real->isCheckable());
-            proxy->setChecked(real->isChecked());
-        }
-        const QString path = proxy->text();
-        const QStringList parts = path.split(separator);
-        int rank = 0;
-        bool matched = true;
-        for (const QString& word : words) {
-            if (!path.contains(word, Qt::CaseInsensitive)) {
-                matched = false;
-                break;
-            }
-            if (rank < 3 && !parts.isEmpty()) {
-                if (parts.last().startsWith(word, Qt::CaseInsensitive)) {
-                    rank = 3;
-                } else if (rank < 2) {
-                    if (parts.last().contains(word, Qt::CaseInsensitive))
-                        rank = 2;
-                    else if (!parts.first().contains(word, Qt::CaseInsensitive))
-                        rank = 1;
-                }
-            }
-        }
-        if (matched)
-            ranked[rank].append(proxy);
-    }
-
-    for (int rank = 3; rank >= 0; --rank)
-        m_popup->addActions(ranked[rank]);
-    if (m_popup->actions().isEmpty())
+    const QList<QAction*> results = m_entries->match(words);
+    if (results.isEmpty())
         return;
+    m_popup->addActions(results);
 
     m_popup->adjustSize();
     QPoint topLeft = mapToGlobal(QPoint(0, 0));

@@ -4,13 +4,15 @@
 
 #include <QLineEdit>
 #include <QList>
-#include <QPointer>
+#include <QScopedPointer>
 
 class QAction;
 class QMenu;
 class QMouseEvent;
 
 namespace ui {
+
+class QuickSearchIndex;
 
 /// A one-line command finder.
 ///
@@ -56,7 +58,7 @@ private Q_SLOTS:
 private:
     void setSourceImpl(const QList<QAction*>& actions, const QString& prefix);
 
-    QList<QPointer<QAction>> m_entries;
+    QScopedPointer<QuickSearchIndex> m_entries;
     QMenu* m_popup;
 };
 

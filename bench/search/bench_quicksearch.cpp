@@ -1,0 +1,360 @@
+// Quick search under a realistic load: 10,000 commands three menus deep.
+// Every figure is printed beside a baseline measured in the same run, a plain
+// case-insensitive QString::contains scan over the same path texts.
+
+#include "QuickSearch.h"
+#include "QuickSearchIndex_p.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+using ui::QuickSearchWidget;
+
+namespace {
+
+const char* const topMenus[] = {"File", "Edit", "View", "Insert", "Format",
+                                "Tools", "Table", "Review", "Layout", "Window"};
+
+const char* const groupNouns[] = {
+    "Page Setup", "Paragraph", "Borders", "Shading", "Columns", "Headers", "Footers", "Styles",
+    "Themes", "Proofing", "Language", "Comments", "Tracking", "Changes", "Compare", "Protect",
+    "Macros", "Templates", "Add-ins", "Options", "Zoom", "Panes", "Rulers", "Gridlines",
+    "Arrange", "Sort", "Data", "Formulas", "Charts", "Pictures", "Shapes", "Symbols",
+    "Links", "Bookmarks", "Captions", "Citations", "Index", "Contents", "Mailings", "Sharing"};
+
+const char* const verbs[] = {"Insert", "Delete", "Copy", "Move", "Align", "Rotate", "Merge", "Split",
+                             "Select", "Hide", "Show", "Sort", "Filter", "Export", "Import", "Print",
+                             "Preview", "Protect", "Reset", "Apply", "Clear", "Convert", "Duplicate",
+                             "Rename", "Resize", "Group", "Lock", "Highlight", "Replace", "Find"};
+
+const char* const objects[] = {"Row", "Column", "Cell", "Shape", "Picture", "Chart", "Comment",
+                               "Footnote", "Header", "Footer", "Section", "Bookmark", "Hyperlink",
+                               "Caption", "Citation", "Watermark", "Symbol", "Equation", "Field",
+                               "Style", "Theme", "Margin", "Border", "Outline", "Layer", "Frame",
+                               "Legend", "Axis", "Series", "Label"};
+
+const char* const tails[] = {"", "", "", "", "Above", "Below", "Left", "Right", "All", "to PDF",
+                             "as Image", "Settings", "", "", "Again", "Options",
+                             "in Selection", "in Selection", "in Selection", "in Section",
+                             "for Selection", "Selection Only"};
+
+template <typename T, int N>
+constexpr int count(T (&)[N])
+{
+    return N;
+}
+
+// Deterministic pseudo-random numbers, so every run searches the same texts.
+struct Lcg
+{
+    quint32 state = 12345;
+    int next(int bound)
+    {
+        state = state * 1664525u + 1013904223u;
+        return int((state >> 8) % quint32(bound));
+    }
+};
+
+struct Corpus
+{
+    std::unique_ptr<QWidget> owner{new QWidget};
+    QList<QAction*> top;
+    QList<QAction*> commands;
+    QStringList paths; // what the search shows, in source order
+
+    Corpus()
+    {
+        const QString arrow = QStringLiteral(" \u2192 ");
+        Lcg random;
+        for (const char* title : topMenus) {
+            auto* menu = new QMenu(QString::fromLatin1(title), owner.get());
+            top.append(menu->menuAction());
+            for (int g = 0; g < 25; ++g) {
+                const QString group = QString::fromLatin1(groupNouns[random.next(count(groupNouns))]);
+                QMenu* sub = menu->addMenu(group);
+                for (int c = 0; c < 40; ++c) {
+                    QString name = QStringLiteral("%1 %2").arg(QLatin1String(verbs[random.next(count(verbs))]),
+                                                               QLatin1String(objects[random.next(count(objects))]));
+                    const char* tail = tails[random.next(count(tails))];
+                    if (*tail)
+                        name += QLatin1Char(' ') + QLatin1String(tail);
+                    QAction* command = sub->addAction(name);
+                    if (c % 7 == 0)
+                        command->setCheckable(true);
+                    commands.append(command);
+                    paths.append(QString::fromLatin1(title) + arrow + group + arrow + name);
+                }
+            }
+        }
+    }
+};
+
+int baselineScan(const QStringList& texts, const QStringList& words)
+{
+    int hits = 0;
+    for (const QString& text : texts) {
+        bool all = true;
+        for (const QString& word : words) {
+            if (!text.contains(word, Qt::CaseInsensitive)) {
+                all = false;
+                break;
+            }
+        }
+        hits += all;
+    }
+    return hits;
+}
+
+// Median wall time of one call, in milliseconds.
+double medianMs(const std::function<void()>& run, int minRuns = 7, qint64 minNs = 300 * 1000 * 1000)
+{
+    QVector<qint64> times;
+    qint64 total = 0;
+    while (times.size() < minRuns || total < minNs) {
+        QElapsedTimer timer;
+        timer.start();
+        run();
+        const qint64 ns = timer.nsecsElapsed();
+        times.append(ns);
+        total += ns;
+        if (times.size() >= 1000)
+            break;
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2] / 1e6;
+}
+
+// QtTest may run a benchmark function several times; report each row once.
+bool firstReport(const char* what)
+{
+    static QSet<QString> done;
+    const QString key = QLatin1String(what) + QLatin1Char('/') + QLatin1String(QTest::currentDataTag());
+    if (done.contains(key))
+        return false;
+    done.insert(key);
+    return true;
+}
+
+QString figure(const char* what, const QString& query, int matches, double ms, double baseMs)
+{
+    return QStringLiteral("%1 \"%2\" (%3 matches): %4 ms, baseline %5 ms, ratio %6")
+        .arg(QLatin1String(what), query)
+        .arg(matches)
+        .arg(ms, 0, 'f', 3)
+        .arg(baseMs, 0, 'f', 3)
+        .arg(ms / baseMs, 0, 'f', 1);
+}
+
+} // namespace
+
+class bench_QuickSearch : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup();
+
+    void keystroke_data();
+    void keystroke();
+    void matching_data();
+    void matching();
+    void phases_data();
+    void phases();
+
+private:
+    void addQueries();
+
+    std::unique_ptr<Corpus> m_corpus;
+    std::unique_ptr<QWidget> m_window;
+    QuickSearchWidget* m_box = nullptr;
+};
+
+void bench_QuickSearch::initTestCase()
+{
+    m_corpus.reset(new Corpus);
+    QCOMPARE(m_corpus->commands.size(), 10000);
+
+    m_window.reset(new QWidget);
+    auto* layout = new QVBoxLayout(m_window.get());
+    layout->addStretch();
+    m_box = new QuickSearchWidget(m_window.get());
+    layout->addWidget(m_box);
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    m_window->setGeometry(screen.left() + 40, screen.bottom() - 120, 300, 80);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+
+    QElapsedTimer timer;
+    timer.start();
+    m_box->setSource(m_corpus->top);
+    qInfo("setSource of %d commands: %.1f ms", int(m_corpus->commands.size()), timer.nsecsElapsed() / 1e6);
+}
+
+void bench_QuickSearch::cleanup()
+{
+    if (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
+void bench_QuickSearch::addQueries()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<int>("low");
+    QTest::addColumn<int>("high");
+    QTest::newRow("about 10") << "split row" << 5 << 25;
+    QTest::newRow("about 300") << "split" << 200 << 450;
+    QTest::newRow("about 5000") << "ion" << 3500 << 6500;
+}
+
+void bench_QuickSearch::keystroke_data()
+{
+    addQueries();
+}
+
+// From the last key of the query to the popup shown and painted.
+void bench_QuickSearch::keystroke()
+{
+    QFETCH(QString, query);
+    QFETCH(int, low);
+    QFETCH(int, high);
+
+    const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const int matches = baselineScan(m_corpus->paths, words);
+    QVERIFY2(matches >= low && matches <= high, qPrintable(QString::number(matches)));
+
+    QMenu* popup = m_box->findChild<QMenu*>();
+    const QString prefix = query.left(query.size() - 1);
+    const QChar last = query.back();
+    auto press = [&] {
+        m_box->setText(prefix);
+        QTest::keyClick(m_box, last.toLatin1());
+        QCoreApplication::processEvents();
+    };
+    press();
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popup->actions().size(), matches);
+
+    QBENCHMARK {
+        press();
+    }
+
+    if (!firstReport("keystroke"))
+        return;
+    const double ms = medianMs(press);
+    const double baseMs = medianMs([&] { baselineScan(m_corpus->paths, words); });
+    qInfo().noquote() << figure("keystroke", query, matches, ms, baseMs);
+}
+
+void bench_QuickSearch::matching_data()
+{
+    addQueries();
+}
+
+// The ranking alone, over an index built the way the box builds its own.
+void bench_QuickSearch::matching()
+{
+    QFETCH(QString, query);
+
+    ui::QuickSearchIndex index;
+    for (int i = 0; i < m_corpus->commands.size(); ++i) {
+        QAction* command = m_corpus->commands[i];
+        auto* proxy = new QAction(command->icon(), m_corpus->paths[i], command);
+        proxy->setCheckable(command->isCheckable());
+        index.append(proxy);
+    }
+    const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const int matches = index.match(words).size();
+    QCOMPARE(matches, baselineScan(m_corpus->paths, words));
+
+    QBENCHMARK {
+        index.match(words);
+    }
+
+    if (firstReport("matching")) {
+        const double ms = medianMs([&] { index.match(words); });
+        const double baseMs = medianMs([&] { baselineScan(m_corpus->paths, words); });
+        qInfo().noquote() << figure("matching", query, matches, ms, baseMs);
+    }
+    index.clear();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void bench_QuickSearch::phases_data()
+{
+    addQueries();
+}
+
+// Where a keystroke's time goes: the steps the box takes, one by one, on a
+// menu of its own.
+void bench_QuickSearch::phases()
+{
+    QFETCH(QString, query);
+    if (!firstReport("phases"))
+        return;
+
+    ui::QuickSearchIndex index;
+    for (int i = 0; i < m_corpus->commands.size(); ++i) {
+        QAction* command = m_corpus->commands[i];
+        index.append(new QAction(command->icon(), m_corpus->paths[i], command));
+    }
+    QMenu menu;
+    const QPoint at = m_box->mapToGlobal(QPoint(0, 0));
+    enum { Clear, Split, Match, Add, Size, Popup, Paint, PhaseCount };
+    QVector<qint64> phase[PhaseCount];
+    int results = 0;
+    QElapsedTimer timer;
+    timer.start();
+    while (phase[0].size() < 7 || timer.elapsed() < 1000) {
+        QElapsedTimer step;
+        step.start();
+        qint64 last = 0;
+        auto lap = [&](int which) {
+            const qint64 now = step.nsecsElapsed();
+            phase[which].append(now - last);
+            last = now;
+        };
+        menu.close();
+        menu.clear();
+        lap(Clear);
+        const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        lap(Split);
+        const QList<QAction*> found = index.match(words);
+        lap(Match);
+        menu.addActions(found);
+        lap(Add);
+        menu.adjustSize();
+        lap(Size);
+        menu.popup(at - QPoint(0, menu.height()));
+        lap(Popup);
+        QCoreApplication::processEvents();
+        lap(Paint);
+        results = found.size();
+    }
+    menu.close();
+    auto median = [](QVector<qint64> times) {
+        std::sort(times.begin(), times.end());
+        return times[times.size() / 2] / 1e6;
+    };
+    const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const double baseMs = medianMs([&] { baselineScan(m_corpus->paths, words); });
+    qInfo("phases \"%s\" (%d matches), ms: clear %.3f, split %.3f, match %.3f, add %.3f, adjustSize %.3f, "
+          "popup %.3f, paint %.3f; baseline %.3f; popup %dx%d",
+          qPrintable(query), results, median(phase[Clear]), median(phase[Split]), median(phase[Match]),
+          median(phase[Add]), median(phase[Size]), median(phase[Popup]), median(phase[Paint]), baseMs,
+          menu.width(), menu.height());
+    index.clear();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+QTEST_MAIN(bench_QuickSearch)
+#include "bench_quicksearch.moc"
