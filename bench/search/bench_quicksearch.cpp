@@ -7,9 +7,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -74,6 +76,10 @@ struct Corpus
     Corpus()
     {
         const QString arrow = QStringLiteral(" \u2192 ");
+        QStyle* style = QApplication::style();
+        const QList<QIcon> icons = {style->standardIcon(QStyle::SP_FileIcon), style->standardIcon(QStyle::SP_DirIcon),
+                                    style->standardIcon(QStyle::SP_DialogSaveButton),
+                                    style->standardIcon(QStyle::SP_TrashIcon)};
         Lcg random;
         for (const char* title : topMenus) {
             auto* menu = new QMenu(QString::fromLatin1(title), owner.get());
@@ -88,8 +94,14 @@ struct Corpus
                     if (*tail)
                         name += QLatin1Char(' ') + QLatin1String(tail);
                     QAction* command = sub->addAction(name);
-                    if (c % 7 == 0)
+                    if (c % 7 == 0) {
                         command->setCheckable(true);
+                        command->setChecked(c % 14 == 0);
+                    }
+                    if (c % 11 == 0)
+                        command->setEnabled(false);
+                    if (c % 5 == 0)
+                        command->setIcon(icons[c % icons.size()]);
                     commands.append(command);
                     paths.append(QString::fromLatin1(title) + arrow + group + arrow + name);
                 }
@@ -170,6 +182,8 @@ private Q_SLOTS:
     void matching();
     void phases_data();
     void phases();
+    void fingerprint_data();
+    void fingerprint();
 
 private:
     void addQueries();
@@ -354,6 +368,47 @@ void bench_QuickSearch::phases()
           menu.width(), menu.height());
     index.clear();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void bench_QuickSearch::fingerprint_data()
+{
+    addQueries();
+    QTest::newRow("typed over") << "split rowx" << 0 << 0;
+    QTest::newRow("words reordered") << "row split" << 0 << 25;
+    QTest::newRow("upper case") << "SPLIT Row" << 0 << 25;
+}
+
+// What the user sees after every key of the query: whether the popup is up,
+// where, its entries with their states, and the pixels of the final popup.
+// Printed as one hash per query, to compare builds of the box.
+void bench_QuickSearch::fingerprint()
+{
+    QFETCH(QString, query);
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    QMenu* popup = m_box->findChild<QMenu*>();
+    m_box->clear();
+    popup->close();
+    for (QChar key : query) {
+        QTest::keyClick(m_box, key.toLatin1());
+        QCoreApplication::processEvents();
+        QString state = QStringLiteral("%1 %2|").arg(popup->isVisible()).arg(QString::number(popup->geometry().x()) + QLatin1Char(',') + QString::number(popup->geometry().y()) + QLatin1Char(',') + QString::number(popup->width()) + QLatin1Char(',') + QString::number(popup->height()));
+        for (QAction* action : popup->actions()) {
+            state += QStringLiteral("%1/%2/%3/%4/%5|")
+                         .arg(action->text())
+                         .arg(action->isEnabled())
+                         .arg(action->isCheckable())
+                         .arg(action->isChecked())
+                         .arg(action->icon().isNull());
+        }
+        hash.addData(state.toUtf8());
+    }
+    if (popup->isVisible()) {
+        const QImage image = popup->grab().toImage();
+        hash.addData(reinterpret_cast<const char*>(image.constBits()), int(image.sizeInBytes()));
+    }
+    qInfo("fingerprint \"%s\": %d entries, %s", qPrintable(query), int(popup->actions().size()),
+          hash.result().toHex().constData());
+    popup->close();
 }
 
 QTEST_MAIN(bench_QuickSearch)

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
+#include <QRandomGenerator>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStyle>
@@ -119,6 +120,7 @@ private Q_SLOTS:
     void rankOrderAndSourceOrder();
     void everyWordRequired();
     void noMatchShowsNothing();
+    void matchesPlainRulesOnMixedScripts();
 
     void liveStateCopied();
     void deletedRealActionDropsItsEntry();
@@ -430,6 +432,121 @@ void tst_QuickSearch::noMatchShowsNothing()
     QuickSearchWidget empty(nullptr);
     type(empty, "open");
     QVERIFY(!popupOf(empty)->isVisible());
+}
+
+// The ranking rules written out plainly, for comparison with the box.
+static QStringList plainSearch(const QStringList& paths, const QString& query)
+{
+    const QStringList words = query.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    if (words.isEmpty() || words.first().size() < 3)
+        return {};
+    QStringList ranked[4];
+    for (const QString& path : paths) {
+        const QStringList parts = path.split(QStringLiteral(" \u2192 "));
+        int rank = 0;
+        bool all = true;
+        for (const QString& word : words) {
+            if (!path.contains(word, Qt::CaseInsensitive)) {
+                all = false;
+                break;
+            }
+            if (rank < 3 && parts.last().startsWith(word, Qt::CaseInsensitive))
+                rank = 3;
+            else if (rank < 2 && parts.last().contains(word, Qt::CaseInsensitive))
+                rank = 2;
+            else if (rank < 1 && !parts.first().contains(word, Qt::CaseInsensitive))
+                rank = 1;
+        }
+        if (all)
+            ranked[rank].append(path);
+    }
+    return ranked[3] + ranked[2] + ranked[1] + ranked[0];
+}
+
+void tst_QuickSearch::matchesPlainRulesOnMixedScripts()
+{
+    // Letters whose case folding is unusual: sharp s, final sigma, dotted and
+    // dotless i, the Kelvin and micro signs, Cyrillic, and a Deseret pair
+    // outside the basic plane; blanks and arrows to disturb the path parts.
+    const QStringList pieces = {
+        "a", "A", "b", "B", "e", "E", "o", "O", "s", "S", "k", "K", "i", "I",
+        "\u00df", "\u1e9e", "\u03c3", "\u03c2", "\u03a3", "\u0130", "\u0131", "\u212a", "\u00b5", "\u03bc",
+        "\u0430", "\u0410", "\u0451", "\u0401", "\U00010400", "\U00010428", " ", " ", "\u2192", " \u2192 ", "-"};
+    QRandomGenerator random(20240601);
+    auto randomText = [&](int minPieces, int maxPieces) {
+        QString text;
+        const int n = random.bounded(minPieces, maxPieces + 1);
+        for (int i = 0; i < n; ++i)
+            text += pieces[random.bounded(pieces.size())];
+        return text;
+    };
+
+    SearchSource source;
+    QStringList paths;
+    for (int i = 0; i < 300; ++i) {
+        const int depth = random.bounded(1, 4);
+        QStringList parts;
+        for (int level = 0; level < depth; ++level) {
+            // Few distinct menu titles, so that menus are shared.
+            QString part = level + 1 < depth ? QStringLiteral("M%1 ").arg(random.bounded(3)) + randomText(1, 3)
+                                             : randomText(2, 8);
+            part.remove(QLatin1Char('/'));
+            parts << part;
+        }
+        if (parts.last().trimmed().isEmpty())
+            parts.last() += QLatin1Char('x');
+        const QString path = parts.join(QLatin1Char('/'));
+        if (source.command(path))
+            continue;
+        source.add(path);
+    }
+    // The order the box sees: depth first through the menus.
+    std::function<void(const QList<QAction*>&, const QString&)> walk = [&](const QList<QAction*>& actions,
+                                                                          const QString& prefix) {
+        for (QAction* action : actions) {
+            const QString name = prefix.isEmpty() ? action->text() : prefix + QStringLiteral(" \u2192 ") + action->text();
+            if (action->menu())
+                walk(action->menu()->actions(), name);
+            else
+                paths << name;
+        }
+    };
+    walk(source.actions(), QString());
+
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+
+    int searched = 0;
+    int found = 0;
+    for (int i = 0; i < 1000; ++i) {
+        QString query;
+        const int words = random.bounded(1, 4);
+        const QString& origin = paths[random.bounded(paths.size())];
+        for (int w = 0; w < words; ++w) {
+            // Mostly words of one path, now and then one from elsewhere.
+            const QString& path = random.bounded(5) ? origin : paths[random.bounded(paths.size())];
+            const int length = random.bounded(w == 0 ? 2 : 1, 6);
+            const int from = random.bounded(qMax(1, path.size() - length));
+            QString word = path.mid(from, length);
+            // Flip the case now and then, so that folding is what matches.
+            if (random.bounded(2))
+                word = random.bounded(2) ? word.toUpper() : word.toLower();
+            query += word + QLatin1Char(' ');
+        }
+        popupOf(box)->close();
+        box.setText(query);
+        QTest::mousePress(&box, Qt::LeftButton, {}, QPoint(2, 2));
+        QTest::mouseRelease(&box, Qt::LeftButton, {}, QPoint(2, 2));
+        const QStringList expected = plainSearch(paths, query);
+        QCOMPARE(popupTexts(box), expected);
+        searched += !query.split(QLatin1Char(' '), Qt::SkipEmptyParts).value(0).isEmpty();
+        found += !expected.isEmpty();
+    }
+    // The random queries must exercise the search, not just the short-word rule.
+    QVERIFY2(found > 150, qPrintable(QString::number(found)));
+    QVERIFY(searched > 500);
 }
 
 void tst_QuickSearch::liveStateCopied()
