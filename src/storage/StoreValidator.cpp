@@ -16,6 +16,8 @@ const quint32 maxImageSide = 32768;
 const quint64 maxImagePixels = quint64(1) << 24;
 // QRegion unites its rectangles one at a time: quadratic in their number.
 const quint32 maxRegionRects = 1024;
+// Qt refuses CBOR nested deeper than 1024; stop well before.
+const int cborMaxDepth = 256;
 // QKeySequence holds at most four keys and reads no more.
 const quint32 maxKeys = 4;
 
@@ -188,11 +190,12 @@ bool StoreValidator::payload(quint32 type, int depth)
     case QMetaType::QJsonObject:
     case QMetaType::QJsonArray:
     case QMetaType::QJsonDocument:
+        // JSON text that Qt parses with its own nesting limit.
+        return byteArray();
     case QMetaType::QCborValue:
     case QMetaType::QCborArray:
     case QMetaType::QCborMap:
-        // Text or CBOR that Qt parses with its own nesting limits.
-        return byteArray();
+        return cbor();
     case QMetaType::QStringList:
         return stringList();
     case QMetaType::QByteArrayList:
@@ -433,6 +436,113 @@ bool StoreValidator::easingCurve()
         return true;
     // Period, amplitude, overshoot, Bézier points, TCB points.
     return skip(3 * sizeofDouble) && polygon(16) && polygon(16 + 3 * sizeofDouble);
+}
+
+bool StoreValidator::cbor()
+{
+    // Qt's CBOR decoder allocates the length a string claims before reading it.
+    quint32 bytes = 0;
+    if (!readU32(bytes))
+        return false;
+    if (bytes == nullLength || bytes == 0)
+        return true;
+    if (!need(bytes))
+        return false;
+    const quint32 end = m_pos + bytes;
+    while (m_pos < end) {
+        // Qt reads the first item; what follows it must at least be well formed.
+        if (!cborItem(end, 0))
+            return false;
+    }
+    return true;
+}
+
+bool StoreValidator::cborArgument(quint32 end, quint8 info, quint64& value)
+{
+    if (info < 24) {
+        value = info;
+        return true;
+    }
+    const quint32 sizes[] = {1, 2, 4, 8};
+    if (info > 27)
+        return false;
+    const quint32 size = sizes[info - 24];
+    if (size > end - m_pos)
+        return false;
+    value = 0;
+    for (quint32 i = 0; i < size; ++i)
+        value = (value << 8) | static_cast<quint8>(m_data[m_pos++]);
+    return true;
+}
+
+bool StoreValidator::cborItem(quint32 end, int depth)
+{
+    if (depth > cborMaxDepth || m_pos >= end)
+        return false;
+    const quint8 initial = static_cast<quint8>(m_data[m_pos++]);
+    const quint8 major = initial >> 5;
+    const quint8 info = initial & 0x1f;
+    if (info == 31) {
+        switch (major) {
+        case 2:
+        case 3:
+            // Indefinite string: definite chunks of the same kind up to a break.
+            for (;;) {
+                if (m_pos >= end)
+                    return false;
+                const quint8 chunk = static_cast<quint8>(m_data[m_pos]);
+                if (chunk == 0xff) {
+                    ++m_pos;
+                    return true;
+                }
+                if ((chunk >> 5) != major || (chunk & 0x1f) == 31 || !cborItem(end, depth + 1))
+                    return false;
+            }
+        case 4:
+        case 5:
+            for (;;) {
+                if (m_pos >= end)
+                    return false;
+                if (static_cast<quint8>(m_data[m_pos]) == 0xff) {
+                    ++m_pos;
+                    return true;
+                }
+                if (!cborItem(end, depth + 1) || (major == 5 && !cborItem(end, depth + 1)))
+                    return false;
+            }
+        default:
+            return false;  // a break outside an indefinite item, or reserved
+        }
+    }
+    quint64 argument = 0;
+    if (!cborArgument(end, info, argument))
+        return false;
+    switch (major) {
+    case 0:
+    case 1:
+    case 7:
+        return true;
+    case 2:
+    case 3:
+        if (argument > end - m_pos)
+            return false;
+        m_pos += static_cast<quint32>(argument);
+        return true;
+    case 4:
+    case 5: {
+        // Every item takes at least one byte: a count beyond that is a lie.
+        const quint64 items = major == 5 ? 2 * argument : argument;
+        if (argument > end - m_pos || items > end - m_pos)
+            return false;
+        for (quint64 i = 0; i < items; ++i) {
+            if (!cborItem(end, depth + 1))
+                return false;
+        }
+        return true;
+    }
+    default:  // 6: a tag, then the tagged item
+        return cborItem(end, depth + 1);
+    }
 }
 
 bool StoreValidator::jsonValue()

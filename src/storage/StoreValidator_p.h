@@ -48,6 +48,9 @@ private:
     bool dateTime();
     bool timeZone();
     bool easingCurve();
+    bool cbor();
+    bool cborArgument(quint32 end, quint8 info, quint64& value);
+    bool cborItem(quint32 end, int depth);
     bool jsonValue();
     bool font();
     bool image();

@@ -2,6 +2,8 @@
 
 #include <QBitArray>
 #include <QBrush>
+#include <QCborArray>
+#include <QCborMap>
 #include <QCborValue>
 #include <QColor>
 #include <QCursor>
@@ -37,6 +39,17 @@
 #include <QtTest>
 
 #include <memory>
+
+#if defined(Q_OS_LINUX)
+#include <sys/resource.h>
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+#define TST_UNDER_ASAN 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define TST_UNDER_ASAN 1
+#endif
+#endif
 
 namespace {
 
@@ -102,6 +115,41 @@ QByteArray listWithCount(quint32 count)
     out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QVariantList) << qint8(0) << count;
     return bytes;
 }
+
+// Caps the address space at what the process uses now plus 768 MB, so that a
+// loader that believes a huge count fails loudly (std::bad_alloc) instead of
+// quietly allocating gigabytes. Not under AddressSanitizer, which reserves
+// terabytes of shadow memory up front.
+class AddressSpaceCap
+{
+public:
+    AddressSpaceCap()
+    {
+#if defined(Q_OS_LINUX) && !defined(TST_UNDER_ASAN)
+        QFile statm(QStringLiteral("/proc/self/statm"));
+        if (!statm.open(QIODevice::ReadOnly) || getrlimit(RLIMIT_AS, &m_saved) != 0)
+            return;
+        const rlim_t used = statm.readAll().split(' ').value(0).toULongLong() * 4096;
+        rlimit capped = m_saved;
+        capped.rlim_cur = used + (rlim_t(768) << 20);
+        if (m_saved.rlim_cur == RLIM_INFINITY || capped.rlim_cur < m_saved.rlim_cur)
+            m_active = setrlimit(RLIMIT_AS, &capped) == 0;
+#endif
+    }
+    ~AddressSpaceCap()
+    {
+#if defined(Q_OS_LINUX) && !defined(TST_UNDER_ASAN)
+        if (m_active)
+            setrlimit(RLIMIT_AS, &m_saved);
+#endif
+    }
+
+private:
+#if defined(Q_OS_LINUX) && !defined(TST_UNDER_ASAN)
+    rlimit m_saved{};
+#endif
+    bool m_active = false;
+};
 
 bool loadsEmpty(QByteArray bytes)
 {
@@ -393,6 +441,7 @@ private slots:
     void hostileCountsReturnQuickly()
     {
         QFETCH(QByteArray, bytes);
+        AddressSpaceCap cap;
         QElapsedTimer timer;
         timer.start();
         QVERIFY(loadsEmpty(bytes));
@@ -451,11 +500,26 @@ private slots:
                 << quint32(0) << qint8(Qt::TimeZone) << QStringLiteral("../../../dev/zero");
         }
         QTest::newRow("time zone path") << timeZone;
+
+        auto cborEntry = [](const QByteArray& cbor) {
+            QByteArray bytes;
+            QDataStream out(&bytes, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QCborArray) << qint8(0) << cbor;
+            return bytes;
+        };
+        // Found by fuzzing: a CBOR byte string claiming 1.5 GB in 90 bytes.
+        QTest::newRow("cbor string length") << QByteArray::fromBase64(
+            "AAAAAQAAAAgAYwBiAG8AcgAAADYAAAAAWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpa"
+            "WlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWlpaWgJhYw==");
+        QTest::newRow("cbor array count") << cborEntry(QByteArray("\x9b\x00\x00\x00\x01\x00\x00\x00\x00\x01", 10));
+        QTest::newRow("cbor indefinite without break") << cborEntry(QByteArray("\x9f\x01\x02", 3));
+        QTest::newRow("cbor nested 2000 deep") << cborEntry(QByteArray(2000, '\x81') + '\x01');
     }
 
     void hostileImagesAreRefused()
     {
         QFETCH(QByteArray, bytes);
+        AddressSpaceCap cap;
         QElapsedTimer timer;
         timer.start();
         QVERIFY(loadsEmpty(bytes));
@@ -532,6 +596,11 @@ private slots:
         QTest::newRow("json value string") << QVariant(QJsonValue(QStringLiteral("v")));
         QTest::newRow("json value object") << QVariant(QJsonValue(QJsonObject{{QStringLiteral("a"), true}}));
         QTest::newRow("cbor") << QVariant::fromValue(QCborValue(QStringLiteral("c")));
+        QCborMap cborMap;
+        cborMap.insert(QStringLiteral("a"), QCborArray{1, 2.5, QByteArray("bytes"), QCborValue(QCborSimpleType(99))});
+        cborMap.insert(-7, QCborValue(QCborKnownTags::Signature, QStringLiteral("tagged")));
+        QTest::newRow("cbor map") << QVariant::fromValue(cborMap);
+        QTest::newRow("cbor array") << QVariant::fromValue(QCborArray{QCborArray{QCborMap{}}, QCborValue()});
         QTest::newRow("color") << QVariant(QColor(1, 2, 3, 4));
         QTest::newRow("font") << QVariant(QFont(QStringLiteral("Sans"), 11, QFont::Bold, true));
         QTest::newRow("brush solid") << QVariant(QBrush(QColor(9, 8, 7), Qt::Dense3Pattern));
