@@ -10,8 +10,12 @@
 #include "RibbonColors_p.h"
 
 #include <QAction>
+#include <algorithm>
+#include <climits>
 #include <QApplication>
 #include <QHash>
+#include <QHelpEvent>
+#include <QToolTip>
 #include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
@@ -22,6 +26,7 @@ namespace Qtitan {
 
 namespace {
 constexpr int TabPadding = 14;
+constexpr int MinTabPadding = 5;
 constexpr int TabSpacing = 2;
 constexpr int TabTopGap = 3;
 constexpr int FirstTabGap = 4;
@@ -48,6 +53,7 @@ public:
     int hoverTab = -1;
     bool restoredByPress = false;
     QVector<QRect> tabRects;
+    QVector<int> tabTextWidths; ///< room for each title; a shorter one than the title's is elided
 
     static QString pageTitle(const RibbonPage* page)
     {
@@ -134,11 +140,41 @@ public:
         }
         x += FirstTabGap;
         tabRects.clear();
-        for (const RibbonPage* page : qAsConst(pages)) {
-            const QString text = pageTitle(page);
-            const int textWidth = metrics.horizontalAdvance(QString(text).remove(QLatin1Char('&')));
-            const int tabWidth = qMax(textWidth + 2 * TabPadding, 40);
+        // Tabs narrow when the row is short: first the padding goes, then the
+        // widest titles are elided down to a common width.
+        QVector<int> textWidths;
+        for (const RibbonPage* page : qAsConst(pages))
+            textWidths.append(metrics.horizontalAdvance(QString(pageTitle(page)).remove(QLatin1Char('&'))));
+        const int available = width - x - FirstTabGap;
+        const int count = textWidths.size();
+        auto rowWidth = [&](int padding, int cap) {
+            int total = 0;
+            for (int w : textWidths)
+                total += qMin(w, cap) + 2 * padding + TabSpacing;
+            return total;
+        };
+        int padding = TabPadding;
+        while (padding > MinTabPadding && rowWidth(padding, INT_MAX) > available)
+            --padding;
+        int cap = INT_MAX;
+        if (count > 0 && rowWidth(padding, INT_MAX) > available) {
+            int low = 0;
+            int high = *std::max_element(textWidths.cbegin(), textWidths.cend());
+            while (low < high) {
+                const int mid = (low + high + 1) / 2;
+                if (rowWidth(padding, mid) <= available)
+                    low = mid;
+                else
+                    high = mid - 1;
+            }
+            cap = qMax(low, metrics.horizontalAdvance(QStringLiteral("W…")));
+        }
+        tabTextWidths.clear();
+        for (int i = 0; i < count; ++i) {
+            const int textWidth = qMin(textWidths.at(i), cap);
+            const int tabWidth = qMax(textWidth + 2 * padding, padding < TabPadding ? 0 : 40);
             tabRects.append(QRect(x, tabTop + TabTopGap, tabWidth, tabHeightValue - TabTopGap));
+            tabTextWidths.append(textWidth);
             x += tabWidth + TabSpacing;
         }
         const QRect area = pageAreaRect();
@@ -509,6 +545,21 @@ bool RibbonBar::event(QEvent* event)
     case QEvent::ParentChange:
         d->watcher->watchWindow(window());
         break;
+    case QEvent::ToolTip: {
+        // An elided tab shows its whole title as a tool tip.
+        auto* help = static_cast<QHelpEvent*>(event);
+        const int tab = d->tabAt(help->pos());
+        if (tab >= 0) {
+            const QString title = Private::pageTitle(d->pages.at(tab)).remove(QLatin1Char('&'));
+            if (fontMetrics().horizontalAdvance(title) > d->tabTextWidths.value(tab)) {
+                QToolTip::showText(help->globalPos(), title, this, d->tabRects.at(tab));
+                return true;
+            }
+        }
+        QToolTip::hideText();
+        event->ignore();
+        return true;
+    }
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::PaletteChange:
@@ -602,7 +653,12 @@ void RibbonBar::paintEvent(QPaintEvent* event)
             }
             painter.setPen(colors.tabText);
         }
-        painter.drawText(rect, Qt::AlignCenter | Qt::TextHideMnemonic, text);
+        const int room = d->tabTextWidths.value(i, rect.width());
+        const QString shown = painter.fontMetrics().horizontalAdvance(QString(text).remove(QLatin1Char('&'))) > room
+                                  ? painter.fontMetrics().elidedText(QString(text).remove(QLatin1Char('&')),
+                                                                     Qt::ElideRight, room)
+                                  : text;
+        painter.drawText(rect, Qt::AlignCenter | Qt::TextHideMnemonic, shown);
     }
 }
 

@@ -342,6 +342,38 @@ private Q_SLOTS:
         QVERIFY(f.bar.tabRect(1).left() > f.bar.tabRect(0).right());
     }
 
+    void tabsNarrowToFitTheRow()
+    {
+        RibbonBar bar;
+        bar.addSystemButton(QStringLiteral("File"));
+        const QStringList names{QStringLiteral("Главная страница"), QStringLiteral("Вставка объектов"),
+                                QStringLiteral("Разметка страницы"), QStringLiteral("Рецензирование")};
+        for (const QString& name : names)
+            bar.addPage(name);
+        bar.resize(1200, bar.heightForWidth(1200));
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        const int wideTab = bar.tabRect(0).width();
+        QVERIFY(wideTab > bar.fontMetrics().horizontalAdvance(names.first()));
+
+        bar.resize(360, bar.heightForWidth(360));
+        QTRY_COMPARE(bar.width(), 360);
+        QVERIFY(bar.tabRect(0).width() < wideTab);
+        QVERIFY(bar.tabRect(0).left() > bar.systemButton()->geometry().right());
+        for (int i = 0; i < names.size(); ++i) {
+            const QRect tab = bar.tabRect(i);
+            QVERIFY(tab.width() > 0);
+            QVERIFY(tab.right() < bar.width());
+            if (i > 0)
+                QVERIFY(tab.left() > bar.tabRect(i - 1).right());
+            QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, tab.center());
+            QCOMPARE(bar.currentPageIndex(), i);
+        }
+
+        bar.resize(1200, bar.heightForWidth(1200));
+        QTRY_COMPARE(bar.tabRect(0).width(), wideTab);
+    }
+
     void wheelOverTheTabsSwitchesPages()
     {
         Fixture f;

@@ -306,6 +306,34 @@ private Q_SLOTS:
                      colors.tabBorder.name());
         }
 
+        // Without the frame theme the quick access bar has a row above the tabs.
+        RibbonBar* bar = sample.bar;
+        bar->setFrameThemeEnabled(false);
+        sample.window.resize(1000, 520);
+        QTRY_COMPARE(bar->height(), bar->heightForWidth(bar->width()));
+        const QRect quick = bar->quickAccessBar()->geometry();
+        QVERIFY(bar->quickAccessBar()->isVisible());
+        QVERIFY(quick.bottom() < bar->tabRect(0).top());
+        QVERIFY(quick.left() < bar->tabRect(0).left());
+        // Hovering a tab highlights it.
+        QTest::mouseMove(bar, bar->tabRect(2).center());
+        QMouseEvent move(QEvent::MouseMove, QPointF(bar->tabRect(2).center()), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(bar, &move);
+        const QImage plain = sample.window.grab().toImage();
+        save(plain, name + QStringLiteral("-plain"));
+        const QPoint barOrigin = bar->mapTo(&sample.window, QPoint(0, 0));
+        const QPoint hovered = barOrigin + QPoint(bar->tabRect(2).left() + 4, bar->tabRect(2).center().y());
+        QCOMPARE(QColor(plain.pixel(hovered)).name(), colors.tabHoverBackground.name());
+
+        // Minimised, only the tabs remain.
+        const int fullHeight = bar->height();
+        bar->setMinimized(true);
+        QTRY_VERIFY(bar->height() < fullHeight - 40);
+        save(sample.window.grab().toImage(), name + QStringLiteral("-minimized"));
+        bar->setMinimized(false);
+        QTRY_COMPARE(bar->height(), fullHeight);
+
         // With no document open the workspace shows the scheme's colour.
         auto* mdi = qobject_cast<QMdiArea*>(sample.window.centralWidget());
         mdi->closeAllSubWindows();
