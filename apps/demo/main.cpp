@@ -1,9 +1,48 @@
-#include <tessaro/Tessaro.h>
+#include "DemoCommands.h"
+#include "DemoOptions.h"
+#include "DemoWindow.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTextStream>
 
 int main(int argc, char* argv[])
 {
     QApplication app(argc, argv);
-    return 0;
+    QApplication::setApplicationName(QStringLiteral("tessaro-demo"));
+    QApplication::setOrganizationName(QStringLiteral("Tessaro"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Tessaro Demo"));
+    QApplication::setApplicationVersion(QStringLiteral(TESSARO_DEMO_VERSION));
+
+    DemoOptions options;
+    switch (options.parse(QApplication::arguments())) {
+    case DemoOptions::ExitOk:
+        QTextStream(stdout) << options.output();
+        return 0;
+    case DemoOptions::ExitError:
+        QTextStream(stderr) << options.output();
+        return 2;
+    case DemoOptions::Run:
+        break;
+    }
+
+    DemoWindow window(options.settingsFile);
+    for (const QString& file : qAsConst(options.files))
+        window.commands()->openFile(file);
+    if (window.documents().isEmpty())
+        window.openWelcomeDocument();
+
+    if (!options.screenshotFile.isEmpty()) {
+        const QString path = QFileInfo(options.screenshotFile).absoluteFilePath();
+        if (!window.saveScreenshot(path, options.screenshotSize)) {
+            QTextStream(stderr) << "Cannot write " << QDir::toNativeSeparators(path) << '\n';
+            return 1;
+        }
+        QTextStream(stdout) << QDir::toNativeSeparators(path) << '\n';
+        return 0;
+    }
+
+    window.show();
+    return app.exec();
 }

@@ -1,0 +1,52 @@
+#include "DemoOptions.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+
+DemoOptions::DemoOptions()
+    : m_help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help and exit."))
+    , m_screenshot(QStringLiteral("screenshot"),
+                   QStringLiteral("Render the main window to the PNG <file>, print its path and exit."),
+                   QStringLiteral("file"))
+    , m_size(QStringLiteral("size"), QStringLiteral("Window size for --screenshot (default 1400x900)."),
+             QStringLiteral("WxH"))
+    , m_settings(QStringLiteral("settings"),
+                 QStringLiteral("Use <file> for the settings instead of the user's config folder."),
+                 QStringLiteral("file"))
+{
+    m_parser.setApplicationDescription(
+        QStringLiteral("Sample host of the Tessaro library: a small rich-text editor whose commands, menus and "
+                       "settings are built on Tessaro."));
+    m_parser.addOption(m_help);
+    m_parser.addOption(m_screenshot);
+    m_parser.addOption(m_size);
+    m_parser.addOption(m_settings);
+    m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to open."),
+                                   QStringLiteral("[files...]"));
+}
+
+DemoOptions::Result DemoOptions::parse(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments)) {
+        m_output = m_parser.errorText() + QLatin1Char('\n');
+        return ExitError;
+    }
+    if (m_parser.isSet(m_help)) {
+        m_output = m_parser.helpText();
+        return ExitOk;
+    }
+    screenshotFile = m_parser.value(m_screenshot);
+    settingsFile = m_parser.value(m_settings);
+    files = m_parser.positionalArguments();
+    if (m_parser.isSet(m_size)) {
+        static const QRegularExpression pattern(QStringLiteral("^(\\d+)x(\\d+)$"));
+        const QRegularExpressionMatch match = pattern.match(m_parser.value(m_size));
+        const QSize size = match.hasMatch() ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
+        if (size.width() < 200 || size.height() < 150) {
+            m_output = QStringLiteral("Invalid --size '%1': expected WxH, at least 200x150.\n").arg(m_parser.value(m_size));
+            return ExitError;
+        }
+        screenshotSize = size;
+    }
+    return Run;
+}

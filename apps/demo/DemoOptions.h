@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QCommandLineParser>
+#include <QSize>
+#include <QStringList>
+
+/// The demo's command line. Add an option by declaring it in the constructor
+/// and reading it in parse().
+class DemoOptions
+{
+public:
+    DemoOptions();
+
+    enum Result { Run, ExitOk, ExitError };
+    /// Parses \a arguments (program name first). On ExitOk / ExitError,
+    /// output() holds the help text or the error to print.
+    Result parse(const QStringList& arguments);
+    QString output() const { return m_output; }
+
+    /// Where to save a picture of the main window; empty to run normally.
+    QString screenshotFile;
+    QSize screenshotSize{1400, 900};
+    /// Settings file to use instead of the one in the user's config folder.
+    QString settingsFile;
+    /// Documents to open at start.
+    QStringList files;
+
+    QCommandLineParser& parser() { return m_parser; }
+
+private:
+    QCommandLineParser m_parser;
+    QCommandLineOption m_help;
+    QCommandLineOption m_screenshot;
+    QCommandLineOption m_size;
+    QCommandLineOption m_settings;
+    QString m_output;
+};

@@ -1,0 +1,289 @@
+#include "DemoWindow.h"
+
+#include "DemoCommands.h"
+#include "DemoDocument.h"
+#include "DemoFindBar.h"
+#include "DemoIcons.h"
+#include "DemoSettings.h"
+
+#include "CommandsRegistry.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTextCursor>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent)
+    : QMainWindow(parent)
+    , m_settings(std::make_unique<DemoSettings>(settingsFile))
+{
+    setObjectName(QStringLiteral("demoWindow"));
+    setWindowIcon(DemoIcons::icon(DemoIcons::New));
+    createDocumentArea();
+    m_commands = new DemoCommands(this);
+    // Shortcuts work whatever shows the actions (menus, tool bars or a ribbon).
+    addActions(m_commands->registry()->getActions());
+    createMenus();
+    createToolBars();
+    createStatusBar();
+    restoreSettings();
+    updateTitle();
+}
+
+DemoWindow::~DemoWindow()
+{
+    // The documents go before the commands whose actions their menus show.
+    m_connectedDocument = nullptr;
+    for (DemoDocument* doc : documents())
+        delete doc;
+}
+
+void DemoWindow::createDocumentArea()
+{
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    m_tabs = new QTabWidget(central);
+    m_tabs->setObjectName(QStringLiteral("demoDocuments"));
+    m_tabs->setDocumentMode(true);
+    m_tabs->setTabsClosable(true);
+    m_tabs->setMovable(true);
+    m_tabs->setElideMode(Qt::ElideRight);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &DemoWindow::onCurrentTabChanged);
+    connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) {
+        if (auto* doc = qobject_cast<DemoDocument*>(m_tabs->widget(index)))
+            m_commands->close(doc);
+    });
+    layout->addWidget(m_tabs, 1);
+
+    m_findBar = new DemoFindBar(central);
+    layout->addWidget(m_findBar);
+    setCentralWidget(central);
+}
+
+void DemoWindow::createMenus()
+{
+    for (QMenu* menu : m_commands->categoryMenus())
+        menuBar()->addMenu(menu);
+    m_findBar->setNavigationActions(m_commands->action(DemoCommands::EditFindNext),
+                                    m_commands->action(DemoCommands::EditFindPrevious));
+}
+
+void DemoWindow::createToolBars()
+{
+    const auto fill = [this](QToolBar* bar, const QList<int>& ids) {
+        for (int id : ids) {
+            if (id == 0)
+                bar->addSeparator();
+            else
+                bar->addAction(m_commands->action(id));
+        }
+    };
+    using C = DemoCommands;
+    m_standardToolBar = addToolBar(tr("Standard"));
+    m_standardToolBar->setObjectName(QStringLiteral("standardToolBar"));
+    fill(m_standardToolBar, {C::FileNew, C::FileOpen, C::FileSave, 0, C::EditUndo, C::EditRedo, 0, C::EditCut,
+                             C::EditCopy, C::EditPaste, 0, C::EditFind, C::EditReplace, 0, C::ViewZoomIn,
+                             C::ViewZoomOut, C::ViewRuler, 0, C::InsertTable, C::InsertImage, C::InsertDate, 0,
+                             C::ToolsWordCount, C::HelpContents});
+    m_formatToolBar = addToolBar(tr("Formatting"));
+    m_formatToolBar->setObjectName(QStringLiteral("formatToolBar"));
+    fill(m_formatToolBar, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, 0,
+                           C::FormatSuperscript, C::FormatSubscript, C::FormatHighlight, 0, C::FormatAlignLeft,
+                           C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify, 0, C::FormatOutdent,
+                           C::FormatIndent, 0, C::InsertBulletList, C::InsertNumberedList, 0, C::FormatGrowFont,
+                           C::FormatShrinkFont, C::FormatClear});
+}
+
+void DemoWindow::createStatusBar()
+{
+    m_positionLabel = new QLabel(this);
+    m_wordsLabel = new QLabel(this);
+    m_zoomLabel = new QLabel(this);
+    for (QLabel* label : {m_positionLabel, m_wordsLabel, m_zoomLabel}) {
+        label->setContentsMargins(8, 0, 8, 0);
+        statusBar()->addPermanentWidget(label);
+    }
+    statusBar()->showMessage(tr("Ready"));
+}
+
+void DemoWindow::restoreSettings()
+{
+    const QByteArray geometry = m_settings->value(DemoSettings::geometryKey).toByteArray();
+    if (geometry.isEmpty() || !restoreGeometry(geometry))
+        resize(1200, 800);
+    restoreState(m_settings->value(DemoSettings::windowStateKey).toByteArray());
+}
+
+void DemoWindow::saveSettings()
+{
+    m_settings->setValue(DemoSettings::geometryKey, saveGeometry());
+    m_settings->setValue(DemoSettings::windowStateKey, saveState());
+    if (DemoDocument* doc = activeDocument()) {
+        m_settings->setValue(DemoSettings::zoomKey, doc->zoom());
+        m_settings->setValue(DemoSettings::wordWrapKey, doc->wordWrap());
+        m_settings->setValue(DemoSettings::rulerKey, doc->isRulerVisible());
+    }
+    m_settings->setValue(DemoSettings::autoSaveKey, m_commands->autoSave());
+    m_settings->setValue(DemoSettings::findTextKey, m_findBar->findText());
+    m_settings->setRecentFiles(m_commands->recentFiles());
+}
+
+void DemoWindow::closeEvent(QCloseEvent* event)
+{
+    for (DemoDocument* doc : documents()) {
+        if (doc->isModified() && !m_commands->close(doc)) {
+            event->ignore();
+            return;
+        }
+    }
+    saveSettings();
+    event->accept();
+}
+
+DemoDocument* DemoWindow::activeDocument() const
+{
+    return qobject_cast<DemoDocument*>(m_tabs->currentWidget());
+}
+
+QList<DemoDocument*> DemoWindow::documents() const
+{
+    QList<DemoDocument*> list;
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        if (auto* doc = qobject_cast<DemoDocument*>(m_tabs->widget(i)))
+            list.append(doc);
+    }
+    return list;
+}
+
+void DemoWindow::addDocument(DemoDocument* document)
+{
+    const int index = m_tabs->addTab(document, DemoIcons::icon(DemoIcons::New), document->title());
+    const auto retitle = [this, document] {
+        const int i = m_tabs->indexOf(document);
+        if (i < 0)
+            return;
+        m_tabs->setTabText(i, document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));
+        m_tabs->setTabToolTip(i, document->filePath());
+        if (document == activeDocument())
+            updateTitle();
+    };
+    // Tied to the tab widget so that switching documents does not drop it.
+    connect(document, &DemoDocument::titleChanged, m_tabs, retitle);
+    m_tabs->setCurrentIndex(index);
+    document->setFocus();
+}
+
+void DemoWindow::activateDocument(DemoDocument* document)
+{
+    const int index = m_tabs->indexOf(document);
+    if (index >= 0) {
+        m_tabs->setCurrentIndex(index);
+        document->setFocus();
+    }
+}
+
+void DemoWindow::removeDocument(DemoDocument* document)
+{
+    const int index = m_tabs->indexOf(document);
+    if (index < 0)
+        return;
+    if (m_connectedDocument == document)
+        m_connectedDocument = nullptr;
+    m_tabs->removeTab(index);
+    document->deleteLater();
+}
+
+void DemoWindow::onCurrentTabChanged()
+{
+    if (m_connectedDocument)
+        disconnect(m_connectedDocument, nullptr, this, nullptr);
+    m_connectedDocument = activeDocument();
+    if (DemoDocument* doc = m_connectedDocument) {
+        connect(doc, &QTextEdit::cursorPositionChanged, this, &DemoWindow::updateStatus);
+        connect(doc, &QTextEdit::textChanged, this, &DemoWindow::updateStatus);
+        connect(doc, &DemoDocument::zoomChanged, this, &DemoWindow::updateStatus);
+    }
+    updateTitle();
+    updateStatus();
+    emit activeDocumentChanged(m_connectedDocument);
+}
+
+void DemoWindow::updateTitle()
+{
+    DemoDocument* doc = activeDocument();
+    const QString app = tr("Tessaro Demo");
+    setWindowTitle(doc ? QStringLiteral("%1%2 - %3").arg(doc->title(), doc->isModified() ? QStringLiteral(" *") : QString(), app)
+                       : app);
+}
+
+void DemoWindow::updateStatus()
+{
+    DemoDocument* doc = activeDocument();
+    m_positionLabel->setText(doc ? tr("Line %1, Column %2").arg(doc->lineNumber()).arg(doc->columnNumber()) : QString());
+    m_wordsLabel->setText(doc ? tr("%n word(s)", nullptr, doc->wordCount()) : QString());
+    m_zoomLabel->setText(doc ? tr("Zoom %1%").arg(doc->zoom()) : QString());
+}
+
+void DemoWindow::showMessage(const QString& text, int timeout)
+{
+    statusBar()->showMessage(text, timeout);
+}
+
+void DemoWindow::information(const QString& title, const QString& text)
+{
+    auto* box = new QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+bool DemoWindow::saveScreenshot(const QString& fileName, const QSize& size)
+{
+    setWindowState(Qt::WindowNoState);
+    resize(size);
+    show();
+    // Let the window lay out, paint, and the registry refresh the actions.
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 600)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    return grab().save(fileName, "PNG");
+}
+
+void DemoWindow::openWelcomeDocument()
+{
+    DemoDocument* doc = m_commands->newDocument();
+    doc->setContent(tr(
+        "<h1>Welcome to the Tessaro demo</h1>"
+        "<p>This window is a small rich-text editor built on the <b>Tessaro</b> command registry. "
+        "Every menu entry and toolbar button is a <i>command</i>: an id bound to an action, a run handler "
+        "and an update handler that enables, checks or renames it whenever the event loop wakes up.</p>"
+        "<h3>Things to try</h3>"
+        "<ul>"
+        "<li>Select a word: <b>Cut</b> and <b>Copy</b> become available, and <b>Bold</b> shows the word's format.</li>"
+        "<li>Type something, then open the <b>Edit</b> menu: Undo tells what it will undo.</li>"
+        "<li><b>View &rsaquo; Zoom</b> and <b>Format &rsaquo; Font Size</b> are id ranges served by one handler each.</li>"
+        "<li><b>View &rsaquo; Show Ruler</b> renames itself to Hide Ruler once the ruler is shown.</li>"
+        "</ul>"
+        "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
+        "<tr><th>Menu</th><th>Examples</th></tr>"
+        "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"
+        "<tr><td>Insert</td><td>Date, Table, Image Placeholder, Symbol</td></tr>"
+        "<tr><td>Format</td><td>Bold, Alignment, Font Size, Text Colour</td></tr>"
+        "</table>"
+        "<p>Settings such as the window geometry, zoom and recent files are kept in a key/value store "
+        "in the user's configuration folder.</p>"));
+    doc->setUntitledTitle(tr("Welcome"));
+    doc->moveCursor(QTextCursor::Start);
+}

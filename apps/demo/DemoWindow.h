@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+
+class DemoCommands;
+class DemoDocument;
+class DemoFindBar;
+class DemoSettings;
+class QLabel;
+class QTabWidget;
+class QToolBar;
+
+/// The demo's main window: the menu bar built from the command categories,
+/// two tool bars, the document area, a find bar and a status bar. It owns the
+/// settings (read when it is created, written when it closes) and the command set.
+///
+/// Documents are reached only through activeDocument(), documents(),
+/// addDocument(), activateDocument() and removeDocument(), so that the
+/// document area can change without touching the commands.
+class DemoWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// \a settingsFile overrides the default settings location.
+    explicit DemoWindow(const QString& settingsFile = QString(), QWidget* parent = nullptr);
+    ~DemoWindow() override;
+
+    DemoSettings& settings() const { return *m_settings; }
+    DemoCommands* commands() const { return m_commands; }
+
+    // The document area.
+    DemoDocument* activeDocument() const;
+    QList<DemoDocument*> documents() const;
+    /// Takes ownership of \a document, shows it and makes it active.
+    void addDocument(DemoDocument* document);
+    void activateDocument(DemoDocument* document);
+    /// Takes the document out of the area and deletes it (no questions asked).
+    void removeDocument(DemoDocument* document);
+
+    DemoFindBar* findBar() const { return m_findBar; }
+    QToolBar* standardToolBar() const { return m_standardToolBar; }
+    QToolBar* formatToolBar() const { return m_formatToolBar; }
+    void showMessage(const QString& text, int timeout = 4000);
+    /// A non-blocking message box.
+    void information(const QString& title, const QString& text);
+
+    /// Shows the window at \a size, lets it lay out and saves a picture of it.
+    bool saveScreenshot(const QString& fileName, const QSize& size);
+
+    /// Makes the window open with the welcome document (done when nothing else is opened).
+    void openWelcomeDocument();
+
+signals:
+    void activeDocumentChanged(DemoDocument* document);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void createDocumentArea();
+    void createMenus();
+    void createToolBars();
+    void createStatusBar();
+    void restoreSettings();
+    void saveSettings();
+    void onCurrentTabChanged();
+    void updateTitle();
+    void updateStatus();
+
+    std::unique_ptr<DemoSettings> m_settings;
+    DemoCommands* m_commands = nullptr;
+    QTabWidget* m_tabs = nullptr;
+    DemoFindBar* m_findBar = nullptr;
+    QToolBar* m_standardToolBar = nullptr;
+    QToolBar* m_formatToolBar = nullptr;
+    QLabel* m_positionLabel = nullptr;
+    QLabel* m_wordsLabel = nullptr;
+    QLabel* m_zoomLabel = nullptr;
+    DemoDocument* m_connectedDocument = nullptr;
+};
