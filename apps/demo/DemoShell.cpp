@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTabBar>
 
 #include <algorithm>
 
@@ -49,7 +50,7 @@ QIcon drawnIcon(const std::function<void(QPainter&)>& draw)
 QIcon closeIcon()
 {
     return drawnIcon([](QPainter& p) {
-        p.setPen(QPen(QColor(170, 50, 50), 2));
+        p.setPen(QPen(QColor(215, 60, 60), 2.2));
         p.drawLine(QPointF(4, 4), QPointF(12, 12));
         p.drawLine(QPointF(12, 4), QPointF(4, 12));
     });
@@ -64,7 +65,7 @@ QIcon arrowIcon(bool forward)
         path.moveTo(back, 3);
         path.lineTo(tip, 8);
         path.lineTo(back, 13);
-        p.setPen(QPen(QColor(70, 90, 120), 2));
+        p.setPen(QPen(QColor(40, 120, 215), 2.2));
         p.drawPath(path);
     });
 }
@@ -170,6 +171,21 @@ WindowActions createWindowActions(QMdiArea* area, QObject* parent)
     QObject::connect(area, &QMdiArea::subWindowActivated, parent, update);
     update();
     return actions;
+}
+
+void keepTabTextReadable(QMdiArea* area)
+{
+    auto* tabBar = area->findChild<QTabBar*>();
+    if (!tabBar)
+        return;
+    // An explicitly set palette survives application style changes.
+    QPalette palette = tabBar->palette();
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+        palette.setColor(QPalette::Active, role, QColor(20, 20, 20));
+        palette.setColor(QPalette::Inactive, role, QColor(20, 20, 20));
+        palette.setColor(QPalette::Disabled, role, QColor(120, 120, 120));
+    }
+    tabBar->setPalette(palette);
 }
 
 ui::MenuBar* installClassicMenuBar(QMainWindow* window, const QList<QMenu*>& menus,

@@ -64,6 +64,11 @@ struct WindowActions
 /// the area holds documents. The area stays in its tabbed view.
 WindowActions createWindowActions(QMdiArea* area, QObject* parent);
 
+/// Gives the tabs of @p area dark text for good: their sheet paints them
+/// light grey and white whatever the style, which dark themes would write on
+/// in light text.
+void keepTabTextReadable(QMdiArea* area);
+
 /// Puts a ui::MenuBar holding @p menus into @p window (as its menu widget),
 /// with @p cornerActions as small buttons at its right end.
 ui::MenuBar* installClassicMenuBar(QMainWindow* window, const QList<QMenu*>& menus,

@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QStyleFactory>
+#include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
 #include <QtTest>
@@ -42,6 +43,7 @@ private slots:
     void docksAreListedInTheirMenu();
     void classicMenuBarCarriesMenusAndCornerActions();
     void windowActionsFollowDocuments();
+    void tabTextStaysDarkAcrossStyles();
 };
 
 void tst_DemoShell::cleanup()
@@ -221,6 +223,22 @@ void tst_DemoShell::windowActionsFollowDocuments()
     QTRY_VERIFY(area->subWindowList().isEmpty());
     QTRY_VERIFY(!actions.closeActive->isEnabled());
     QCOMPARE(area->viewMode(), QMdiArea::TabbedView);
+}
+
+void tst_DemoShell::tabTextStaysDarkAcrossStyles()
+{
+    ui::MdiArea area;
+    demo::keepTabTextReadable(&area);
+    auto* tabBar = area.findChild<QTabBar*>();
+    QVERIFY(tabBar);
+    const int styles[] = {53, 32, 10, -1};
+    for (int style : styles) {
+        demo::applyStyle(style);
+        // The tabs sit on light grey or white; their text must stay dark.
+        QVERIFY2(tabBar->palette().color(QPalette::WindowText).lightness() < 80, qPrintable(QString::number(style)));
+        QVERIFY(tabBar->palette().color(QPalette::ButtonText).lightness() < 80);
+    }
+    QVERIFY(area.palette().color(QPalette::WindowText) != QColor(20, 20, 20));
 }
 
 QTEST_MAIN(tst_DemoShell)
