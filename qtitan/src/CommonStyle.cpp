@@ -218,12 +218,36 @@ void CommonStyle::drawControl(ControlElement element, const QStyleOption* option
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
+namespace {
+// Set while the application palette was installed by a theme change rather than by the host.
+bool g_themePaletteInstalled = false;
+
+QPalette unresolvedPalette()
+{
+    QPalette palette(Qt::gray);
+    palette.resolve(0u);
+    return palette;
+}
+} // namespace
+
+void CommonStyle::unpolish(QApplication* application)
+{
+    QProxyStyle::unpolish(application);
+    // The application style is already the next one: give it its own palette
+    // instead of leaving this scheme's colours behind.
+    if (g_themePaletteInstalled && QApplication::style() != this) {
+        g_themePaletteInstalled = false;
+        QApplication::setPalette(unresolvedPalette());
+    }
+}
+
 void CommonStyle::updateTheme()
 {
     if (QApplication::style() == this) {
-        QPalette palette = standardPalette();
-        polish(palette);
-        QApplication::setPalette(palette);
+        // A palette with no role of its own makes the application rebuild its
+        // palette from the style, which polishes it with the new scheme.
+        QApplication::setPalette(unresolvedPalette());
+        g_themePaletteInstalled = true;
     }
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {

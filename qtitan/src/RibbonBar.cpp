@@ -126,7 +126,7 @@ public:
         const int title = titleHeight();
         if (quickAccessShown()) {
             const QSize hint = quickAccessBar->sizeHint();
-            const int x = frameTheme ? 6 : QuickAccessMargin;
+            const int x = frameTheme ? titleIconRect().right() + 6 : QuickAccessMargin;
             quickAccessBar->setGeometry(x, (title - hint.height()) / 2, qMax(0, qMin(hint.width(), width - x)),
                                         hint.height());
         }
@@ -254,6 +254,16 @@ public:
             Q_EMIT q->currentPageIndexChanged(current);
     }
 
+    // The window's icon at the left of the title strip, or an empty rectangle.
+    QRect titleIconRect() const
+    {
+        const QWidget* window = q->window();
+        if (!frameTheme || !window || window == q || window->windowIcon().isNull())
+            return QRect(0, 0, 0, 0);
+        const int size = 16;
+        return QRect(8, (titleHeight() - size) / 2, size, size);
+    }
+
     QString windowTitle() const
     {
         const QWidget* window = q->window();
@@ -296,9 +306,12 @@ bool RibbonBarWatcher::eventFilter(QObject* watched, QEvent* event)
         }
         return false;
     }
-    if (watched == m_window
-        && (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange))
-        m_bar->update();
+    if (watched == m_window) {
+        if (event->type() == QEvent::WindowTitleChange || event->type() == QEvent::ModifiedChange)
+            m_bar->update();
+        else if (event->type() == QEvent::WindowIconChange)
+            relayout();
+    }
     return QObject::eventFilter(watched, event);
 }
 
@@ -581,10 +594,13 @@ void RibbonBar::paintEvent(QPaintEvent* event)
     painter.fillRect(QRect(0, 0, width(), title + tabRow.height()), colors.frameBackground);
 
     if (d->frameTheme) {
+        const QRect iconRect = d->titleIconRect();
+        if (!iconRect.isEmpty())
+            window()->windowIcon().paint(&painter, iconRect);
         const QString text = d->windowTitle();
         if (!text.isEmpty()) {
             const QFontMetrics metrics(font());
-            int left = 0;
+            int left = iconRect.isEmpty() ? 0 : iconRect.right() + 12;
             if (d->quickAccessShown())
                 left = d->quickAccessBar->geometry().right() + 12;
             const int textWidth = metrics.horizontalAdvance(text);

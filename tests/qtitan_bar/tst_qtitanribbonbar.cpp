@@ -275,6 +275,39 @@ private Q_SLOTS:
         QCOMPARE(QColor(image.pixel(390, 5)).name(), colors.frameBackground.name());
     }
 
+    void followsTheApplicationStyle()
+    {
+        RibbonBar bar;
+        bar.addPage(QStringLiteral("Home"));
+        bar.resize(400, bar.heightForWidth(400));
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        const QColor plainWindow = QApplication::palette().color(QPalette::Window);
+
+        auto* style = new Office2016Style(Office2016Style::Colorful);
+        QApplication::setStyle(style);
+        QCOMPARE(QColor(bar.grab().toImage().pixel(390, 5)).name(), style->ribbonColors().frameBackground.name());
+        QCOMPARE(QApplication::palette().color(QPalette::Window), style->ribbonColors().pageBackgroundBottom);
+
+        // A theme change of the application style reaches the palette and the ribbon.
+        style->setTheme(Office2016Style::Black);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), style->ribbonColors().pageBackgroundBottom);
+        QCOMPARE(bar.palette().color(QPalette::Window), style->ribbonColors().pageBackgroundBottom);
+        QCOMPARE(QColor(bar.grab().toImage().pixel(390, 5)).name(), style->ribbonColors().frameBackground.name());
+
+        // Another ribbon style polishes the palette its own way.
+        auto* next = new Office2013Style(Office2013Style::White);
+        QApplication::setStyle(next);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), next->ribbonColors().pageBackgroundBottom);
+
+        // Back to a plain style: no ribbon colours are left in the palette.
+        next->setTheme(Office2013Style::Dark);
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        QCOMPARE(QApplication::palette().color(QPalette::Window), plainWindow);
+        QCOMPARE(QColor(bar.grab().toImage().pixel(390, 5)).name(),
+                 RibbonColors::fromPalette(bar.palette()).frameBackground.name());
+    }
+
     void paintsWithTheStyleScheme()
     {
         Office2016Style style(Office2016Style::Colorful);

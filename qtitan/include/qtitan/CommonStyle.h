@@ -26,6 +26,9 @@ public:
     void polish(QPalette& palette) override;
     void polish(QWidget* widget) override;
     void unpolish(QWidget* widget) override;
+    using QProxyStyle::unpolish;
+    /// Hands the application palette back to the next style if a theme change had set it.
+    void unpolish(QApplication* application) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
