@@ -1,5 +1,8 @@
 #include "qtitan/CommonStyle.h"
 
+#include "qtitan/RibbonBar.h"
+#include "qtitan/RibbonQuickAccessBar.h"
+
 #include "RibbonColors_p.h"
 
 #include <QApplication>
@@ -36,6 +39,14 @@ QPalette menuPalette(const QPalette& base, const RibbonColors& c)
     pal.setColor(QPalette::Disabled, QPalette::Text, Scheme::mix(c.menuText, c.menuBackground, 0.6));
     pal.setColor(QPalette::Disabled, QPalette::ButtonText, Scheme::mix(c.menuText, c.menuBackground, 0.6));
     return pal;
+}
+
+// A tool button on the ribbon's frame colour rather than on a page or a menu.
+bool isOnRibbonFrame(const QWidget* widget)
+{
+    const QWidget* parent = widget ? widget->parentWidget() : nullptr;
+    return parent && qobject_cast<const RibbonQuickAccessBar*>(parent)
+           && qobject_cast<const RibbonBar*>(parent->parentWidget());
 }
 
 void drawButtonPanel(QPainter* painter, const QRectF& rect, const QColor& fill, const QColor& border)
@@ -171,6 +182,19 @@ void CommonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         if (option->state & State_AutoRaise) {
             const RibbonColors c = ribbonColors();
             const State state = option->state;
+            if (isOnRibbonFrame(widget)) {
+                // Buttons on the title strip or the quick access row take the tab colours.
+                QColor fill;
+                if (state & State_Sunken)
+                    fill = Scheme::mix(c.tabHoverBackground, Scheme::isDark(c.frameBackground) ? Qt::white : Qt::black, 0.14);
+                else if (state & State_On)
+                    fill = c.tabHoverBackground;
+                else if ((state & State_Enabled) && (state & (State_MouseOver | State_Raised)))
+                    fill = c.tabHoverBackground;
+                if (fill.isValid())
+                    drawButtonPanel(painter, option->rect, fill, fill);
+                return;
+            }
             if (!(state & State_Enabled)) {
                 if (state & State_On)
                     drawButtonPanel(painter, option->rect, Scheme::mix(c.buttonCheckedBackground, c.pageBackgroundBottom, 0.5),

@@ -10,6 +10,7 @@
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTabBar>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace Qtitan;
@@ -248,6 +249,36 @@ private Q_SLOTS:
         QVERIFY(!plain.testAttribute(Qt::WA_SetPalette));
         tabs.setStyle(nullptr);
         plain.setStyle(nullptr);
+    }
+
+    void toolButtonPanels()
+    {
+        Office2016Style style(Office2016Style::Colorful);
+        const RibbonColors c = style.ribbonColors();
+        auto panelColour = [&](QStyle::State state, const QWidget* widget) {
+            QImage image(24, 24, QImage::Format_ARGB32);
+            image.fill(Qt::magenta);
+            QPainter painter(&image);
+            QStyleOptionToolButton option;
+            option.rect = image.rect();
+            option.state = state | QStyle::State_AutoRaise;
+            style.drawPrimitive(QStyle::PE_PanelButtonTool, &option, &painter, widget);
+            painter.end();
+            return QColor(image.pixel(12, 12)).name();
+        };
+        const QStyle::State enabled = QStyle::State_Enabled;
+        // On a page or in a menu: the scheme's button colours.
+        QCOMPARE(panelColour(enabled | QStyle::State_MouseOver, nullptr), c.buttonHoverBackground.name());
+        QCOMPARE(panelColour(enabled | QStyle::State_Sunken, nullptr), c.buttonPressedBackground.name());
+        QCOMPARE(panelColour(enabled | QStyle::State_On, nullptr), c.buttonCheckedBackground.name());
+        QCOMPARE(panelColour(enabled, nullptr), QColor(Qt::magenta).name());
+
+        // On the quick access bar of a ribbon: the tab hover colour of the frame.
+        RibbonBar bar;
+        auto* button = new QToolButton(bar.quickAccessBar());
+        QCOMPARE(panelColour(enabled | QStyle::State_MouseOver, button), c.tabHoverBackground.name());
+        QCOMPARE(panelColour(enabled, button), QColor(Qt::magenta).name());
+        QVERIFY(panelColour(enabled | QStyle::State_Sunken, button) != c.tabHoverBackground.name());
     }
 
     void colorsForWidgets()
