@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QToolButton>
 
 #include <array>
 
@@ -16,6 +17,43 @@ namespace Qtitan {
 
 using detail::RibbonMetrics;
 using GroupSize = RibbonControlSizeDefinition::GroupSize;
+
+namespace {
+
+// The arrows at the ends of a page whose groups do not fit even collapsed.
+class ScrollButton : public QToolButton
+{
+public:
+    ScrollButton(QWidget* parent, Qt::ArrowType arrow) : QToolButton(parent)
+    {
+        setArrowType(arrow);
+        setAttribute(Qt::WA_Hover, true);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter p(this);
+        const RibbonColors colors = detail::colorsFor(this);
+        const bool hover = testAttribute(Qt::WA_UnderMouse);
+        QColor fill = isDown() ? colors.buttonPressedBackground
+                               : hover ? colors.buttonHoverBackground : colors.pageBackgroundTop;
+        fill.setAlpha(255);
+        p.fillRect(rect(), fill);
+        p.setPen(hover ? colors.buttonHoverBorder : colors.pageBorder);
+        p.drawRect(rect().adjusted(0, 0, -1, -1));
+        p.setRenderHint(QPainter::Antialiasing, true);
+        p.setPen(Qt::NoPen);
+        p.setBrush(colors.buttonText);
+        const QPointF c = QRectF(rect()).center();
+        const qreal d = arrowType() == Qt::LeftArrow ? -1.0 : 1.0;
+        const QPointF points[3] = {QPointF(c.x() - 2.0 * d, c.y() - 4.0), QPointF(c.x() - 2.0 * d, c.y() + 4.0),
+                                   QPointF(c.x() + 2.0 * d, c.y())};
+        p.drawPolygon(points, 3);
+    }
+};
+
+} // namespace
 
 class RibbonPage::Private
 {
@@ -27,6 +65,23 @@ public:
     QList<RibbonGroup*> groups;
     QVector<int> separators; ///< x of the line between two groups
     bool requestPosted = false;
+    int scrollOffset = 0; ///< how far the row of groups is scrolled left
+    QToolButton* scrollLeft = nullptr;
+    QToolButton* scrollRight = nullptr;
+
+    QToolButton* makeScrollButton(Qt::ArrowType arrow, const QString& name, int direction)
+    {
+        auto* button = new ScrollButton(q, arrow);
+        button->setObjectName(name);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->hide();
+        QObject::connect(button, &QToolButton::clicked, q, [this, direction]() {
+            scrollOffset += direction * qMax(60, q->width() / 3);
+            q->updateLayout();
+        });
+        return button;
+    }
 
     void scheduleLayout()
     {
@@ -198,8 +253,19 @@ void RibbonPage::updateLayout()
             sizes[i] = static_cast<GroupSize>(level);
         }
     }
+    // When even the collapsed groups do not fit, the row scrolls.
+    const int overflow = total - available;
+    if (overflow > 0 && n > 0) {
+        if (!d->scrollLeft) {
+            d->scrollLeft = d->makeScrollButton(Qt::LeftArrow, QStringLiteral("qtitan_ribbonpage_scrollleft"), -1);
+            d->scrollRight = d->makeScrollButton(Qt::RightArrow, QStringLiteral("qtitan_ribbonpage_scrollright"), 1);
+        }
+        d->scrollOffset = qBound(0, d->scrollOffset, overflow);
+    } else {
+        d->scrollOffset = 0;
+    }
     d->separators.clear();
-    int x = detail::PageMargin;
+    int x = detail::PageMargin - d->scrollOffset;
     for (int i = 0; i < n; ++i) {
         RibbonGroup* group = d->groups.at(i);
         const int w = widths[i][sizes[i]];
@@ -209,6 +275,16 @@ void RibbonPage::updateLayout()
         if (i + 1 < n)
             d->separators.append(x + detail::GroupGap / 2);
         x += detail::GroupGap;
+    }
+    if (d->scrollLeft) {
+        const int w = detail::ScrollButtonWidth;
+        const int h = m.groupHeight;
+        d->scrollLeft->setGeometry(0, detail::PageMargin, w, h);
+        d->scrollRight->setGeometry(width() - w, detail::PageMargin, w, h);
+        d->scrollLeft->setVisible(d->scrollOffset > 0);
+        d->scrollRight->setVisible(overflow > 0 && d->scrollOffset < overflow);
+        d->scrollLeft->raise();
+        d->scrollRight->raise();
     }
     update();
 }

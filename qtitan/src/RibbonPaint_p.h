@@ -36,7 +36,8 @@ enum : int {
     ColumnSpacing = 2,
     PageMargin = 3,
     GroupGap = 5,          ///< space between two groups, the separator in its middle
-    SeparatorControlWidth = 7
+    SeparatorControlWidth = 7,
+    ScrollButtonWidth = 14 ///< the arrows that scroll a page too narrow for its groups
 };
 
 /// The colours in force for a widget.

@@ -8,6 +8,8 @@
 #include <QToolButton>
 #include <QtTest>
 
+#include <limits>
+
 using namespace Qtitan;
 using Size = RibbonControlSizeDefinition;
 
@@ -45,7 +47,7 @@ private:
     void checkInvariants(RibbonPage& page)
     {
         const QList<RibbonGroup*> groups = page.groups();
-        int previousRight = -1;
+        int previousRight = std::numeric_limits<int>::min();
         for (RibbonGroup* group : groups) {
             QVERIFY(group->isVisible());
             // Groups sit side by side without overlapping, in list order.
@@ -85,8 +87,10 @@ private:
         // Reduced only as far as needed: the groups fit, or nothing is left to reduce.
         const bool allCollapsed = std::all_of(sizes.begin(), sizes.end(),
                                               [](Size::GroupSize s) { return s == Size::GroupPopup; });
-        if (!allCollapsed && !groups.isEmpty())
+        if (!allCollapsed && !groups.isEmpty()) {
+            QVERIFY2(groups.first()->x() >= 0, qPrintable(describe(sizes)));
             QVERIFY2(groups.last()->geometry().right() < page.width(), qPrintable(describe(sizes)));
+        }
     }
 
     static void saveShot(QWidget* widget, const QString& name)
@@ -296,6 +300,39 @@ private slots:
         QCOMPARE(control->window(), page.window());
         QVERIFY(control->isVisible());
         QVERIFY(!button->isVisible());
+    }
+
+    void tooNarrowPageScrolls()
+    {
+        RibbonPage page;
+        sample::fillHomePage(&page);
+        page.resize(250, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        page.updateLayout();
+        for (Size::GroupSize s : sizesOf(page))
+            QCOMPARE(s, Size::GroupPopup);
+        auto* left = page.findChild<QToolButton*>(QStringLiteral("qtitan_ribbonpage_scrollleft"));
+        auto* right = page.findChild<QToolButton*>(QStringLiteral("qtitan_ribbonpage_scrollright"));
+        QVERIFY(left && right);
+        QVERIFY(!left->isVisible());
+        QVERIFY(right->isVisible());
+        RibbonGroup* last = page.groupAt(page.groupCount() - 1);
+        QVERIFY(last->geometry().right() >= page.width());
+        // Scroll right until the last group is in sight.
+        for (int i = 0; i < 20 && right->isVisible(); ++i)
+            QTest::mouseClick(right, Qt::LeftButton);
+        QVERIFY(!right->isVisible());
+        QVERIFY(left->isVisible());
+        QVERIFY(last->geometry().right() < page.width());
+        QVERIFY(page.groupAt(0)->x() < 0);
+        checkInvariants(page);
+        saveShot(&page, QStringLiteral("page_scrolled"));
+        // Widening drops the scrolling.
+        page.resize(2000, page.height());
+        QVERIFY(!left->isVisible());
+        QVERIFY(!right->isVisible());
+        QCOMPARE(page.groupAt(0)->x(), 3);
     }
 
     void actionsAddedWhileCollapsed()
