@@ -478,6 +478,9 @@ QAction* RibbonBar::addSystemButton(const QIcon& icon, const QString& text)
         auto* action = new QAction(icon, text, this);
         action->setMenu(new RibbonSystemMenu(this));
         d->systemButton->setDefaultAction(action);
+        // A default action with a menu turns the button into a split button;
+        // the whole system button opens the menu.
+        d->systemButton->setPopupMode(QToolButton::InstantPopup);
         d->systemButton->show();
     } else {
         QAction* action = d->systemButton->defaultAction();

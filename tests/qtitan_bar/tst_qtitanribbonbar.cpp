@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStyleFactory>
+#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 
@@ -84,6 +85,69 @@ private Q_SLOTS:
         QVERIFY(geometry.height() >= bar.fontMetrics().height());
         // The page area lies below it.
         QVERIFY(geometry.bottom() < bar.height() - 40);
+    }
+
+    void systemButtonOpensItsMenuBelowIt()
+    {
+        RibbonMainWindow window;
+        auto* bar = new RibbonBar;
+        window.setRibbonBar(bar);
+        QAction* action = bar->addSystemButton(QStringLiteral("File"));
+        action->menu()->addAction(QStringLiteral("Open"));
+        window.resize(600, 400);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        RibbonSystemButton* button = bar->systemButton();
+        QCOMPARE(button->popupMode(), QToolButton::InstantPopup);
+        QPoint menuPos;
+        bool shown = false;
+        // The button runs the menu modally; look at it from inside and close it.
+        QTimer poll;
+        poll.setInterval(10);
+        connect(&poll, &QTimer::timeout, this, [&]() {
+            QMenu* menu = action->menu();
+            if (!menu->isVisible())
+                return;
+            shown = true;
+            menuPos = menu->pos();
+            poll.stop();
+            menu->close();
+        });
+        poll.start();
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTRY_VERIFY(shown);
+        const QPoint below = button->mapToGlobal(QPoint(0, button->height()));
+        QCOMPARE(menuPos, below);
+    }
+
+    void frameThemeShowsTheWindowTitle()
+    {
+        Office2016Style style(Office2016Style::Colorful);
+        QWidget window;
+        window.setStyle(&style);
+        auto* bar = new RibbonBar(&window);
+        bar->setStyle(&style);
+        bar->setFrameThemeEnabled(true);
+        bar->resize(600, bar->heightForWidth(600));
+        const QColor frame = style.ribbonColors().frameBackground;
+        auto titleInk = [&]() {
+            const QImage image = bar->grab().toImage();
+            int ink = 0;
+            for (int x = 200; x < 400; ++x) {
+                for (int y = 0; y < bar->tabRect(0).top(); ++y)
+                    ink += QColor(image.pixel(x, y)) != frame ? 1 : 0;
+            }
+            return ink;
+        };
+        bar->addPage(QStringLiteral("Home"));
+        QCOMPARE(titleInk(), 0);
+        window.setWindowTitle(QStringLiteral("Quarterly report - Tessaro"));
+        QVERIFY(titleInk() > 20);
+        bar->setFrameThemeEnabled(false);
+        // Without the frame theme (and no quick access bar) there is no title strip.
+        QVERIFY(bar->tabRect(0).top() < 8);
+        bar->setStyle(nullptr);
+        window.setStyle(nullptr);
     }
 
     void popupBarActions()
