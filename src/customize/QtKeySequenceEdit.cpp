@@ -36,6 +36,9 @@ void QtKeySequenceEdit::keyPressEvent(QKeyEvent* e)
     if ((key >= Qt::Key_Shift && key <= Qt::Key_Alt) || key == Qt::Key_Super_L
         || key == Qt::Key_AltGr)
         return;
+    // Keys the platform could not name make no usable shortcut.
+    if (key == 0 || key == Qt::Key_unknown)
+        return;
 
     int combination = key;
     const Qt::KeyboardModifiers modifiers = e->modifiers();

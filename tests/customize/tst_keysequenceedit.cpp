@@ -17,8 +17,8 @@ private slots:
     void shiftLetterKeepsShift();
     void shiftDigitTypingSymbolDropsShift();
     void shiftWithNonPrintableOrSpaceKeepsShift();
-    void loneModifiersChangeNothing_data();
-    void loneModifiersChangeNothing();
+    void ignoredKeysChangeNothing_data();
+    void ignoredKeysChangeNothing();
     void eachPressReplacesTheCombination();
     void altAndMetaCount();
     void keypadModifierNeverCounts();
@@ -87,7 +87,7 @@ void TestKeySequenceEdit::shiftWithNonPrintableOrSpaceKeepsShift()
     QCOMPARE(edit.keySequence(), QKeySequence(Qt::SHIFT | 0x0416));
 }
 
-void TestKeySequenceEdit::loneModifiersChangeNothing_data()
+void TestKeySequenceEdit::ignoredKeysChangeNothing_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -97,9 +97,11 @@ void TestKeySequenceEdit::loneModifiersChangeNothing_data()
     QTest::newRow("meta") << int(Qt::Key_Meta) << int(Qt::MetaModifier);
     QTest::newRow("altgr") << int(Qt::Key_AltGr) << int(Qt::NoModifier);
     QTest::newRow("super") << int(Qt::Key_Super_L) << int(Qt::MetaModifier);
+    QTest::newRow("unknown key") << int(Qt::Key_unknown) << int(Qt::ControlModifier);
+    QTest::newRow("no key") << 0 << int(Qt::ShiftModifier);
 }
 
-void TestKeySequenceEdit::loneModifiersChangeNothing()
+void TestKeySequenceEdit::ignoredKeysChangeNothing()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
