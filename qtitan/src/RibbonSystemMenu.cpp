@@ -53,6 +53,7 @@ RibbonSystemMenu::RibbonSystemMenu(QWidget* parent)
     setObjectName(QStringLiteral("qtitan_SystemMenu"));
     d->bar = new PopupBar(this);
     d->bar->hide();
+    updateBar();
 }
 
 RibbonSystemMenu::~RibbonSystemMenu()
@@ -95,8 +96,11 @@ void RibbonSystemMenu::updateBar()
     d->bar->setVisible(shown);
     const int barHeight = shown ? d->bar->sizeHint().height() : 0;
     setContentsMargins(0, 0, 0, barHeight);
-    setMinimumWidth(shown ? d->bar->sizeHint().width() + 2 * style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this)
-                          : 0);
+    // The application menu is wider than an ordinary drop-down.
+    const int comfortable = fontMetrics().averageCharWidth() * 32;
+    const int barWidth = shown ? d->bar->sizeHint().width() + 2 * style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this)
+                               : 0;
+    setMinimumWidth(qMax(comfortable, barWidth));
     updateGeometry();
     if (isVisible())
         adjustSize();
