@@ -1,0 +1,544 @@
+#include "RibbonSerializer.h"
+
+#include "RibbonBar.h"
+#include "RibbonControls.h"
+
+#include <QtitanRibbon.h>
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QIcon>
+#include <QImage>
+#include <QMenu>
+#include <QPixmap>
+#include <QToolButton>
+#include <QWidgetAction>
+
+namespace ui {
+
+namespace {
+
+const char* const popupWidgetProperty = "isPopupWidgetAction";
+const char* const dynamicMenuProperty = "isDynamic";
+
+// Old streams carry icons as PNG images; anything larger than this is not an icon.
+const quint32 maxIconSide = 1024;
+const qint64 maxIconBytes = 16 * 1024 * 1024;
+
+bool hasMore(QDataStream& stream)
+{
+    return stream.status() == QDataStream::Ok && stream.device() && !stream.device()->atEnd();
+}
+
+quint32 bigEndian32(const char* bytes)
+{
+    const auto* b = reinterpret_cast<const uchar*>(bytes);
+    return (quint32(b[0]) << 24) | (quint32(b[1]) << 16) | (quint32(b[2]) << 8) | quint32(b[3]);
+}
+
+// Appends @p count bytes of the stream to @p buffer in bounded steps, so that
+// a damaged length cannot make us allocate more than the data holds.
+bool appendRaw(QDataStream& stream, QByteArray& buffer, qint64 count)
+{
+    const qint64 step = 64 * 1024;
+    while (count > 0) {
+        const int block = int(qMin(count, step));
+        const int old = buffer.size();
+        buffer.resize(old + block);
+        const int got = stream.readRawData(buffer.data() + old, block);
+        if (got != block) {
+            buffer.resize(old + qMax(got, 0));
+            stream.setStatus(QDataStream::ReadPastEnd);
+            return false;
+        }
+        count -= block;
+    }
+    return true;
+}
+
+// One image of Qt's QImage stream encoding: a PNG file, read chunk by chunk
+// up to its IEND so that its size is known before it is decoded.
+QImage readPngImage(QDataStream& stream)
+{
+    static const char signature[] = "\x89PNG\r\n\x1a\n";
+    QByteArray png;
+    if (!appendRaw(stream, png, 8))
+        return QImage();
+    if (png != QByteArray(signature, 8)) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return QImage();
+    }
+    bool first = true;
+    for (;;) {
+        if (!appendRaw(stream, png, 8))
+            return QImage();
+        const quint32 length = bigEndian32(png.constData() + png.size() - 8);
+        const QByteArray type = png.right(4);
+        if (length > quint32(maxIconBytes) || png.size() + qint64(length) + 4 > maxIconBytes) {
+            stream.setStatus(QDataStream::ReadCorruptData);
+            return QImage();
+        }
+        const int dataOffset = png.size();
+        if (!appendRaw(stream, png, qint64(length) + 4))
+            return QImage();
+        if (first) {
+            if (type != "IHDR" || length != 13) {
+                stream.setStatus(QDataStream::ReadCorruptData);
+                return QImage();
+            }
+            const quint32 width = bigEndian32(png.constData() + dataOffset);
+            const quint32 height = bigEndian32(png.constData() + dataOffset + 4);
+            if (width == 0 || height == 0 || width > maxIconSide || height > maxIconSide) {
+                stream.setStatus(QDataStream::ReadCorruptData);
+                return QImage();
+            }
+            first = false;
+        }
+        if (type == "IEND")
+            break;
+    }
+    QImage image = QImage::fromData(png, "PNG");
+    if (image.isNull())
+        stream.setStatus(QDataStream::ReadCorruptData);
+    return image;
+}
+
+// Qt's QIcon stream encoding, limited to the engines whose data it can
+// bound: the pixmap engine and themed icons. Other engines mark the stream
+// damaged, since the length of their data is unknown.
+QIcon readIcon(QDataStream& stream)
+{
+    QString key;
+    stream >> key;
+    if (stream.status() != QDataStream::Ok || key.isEmpty())
+        return QIcon();
+    if (key == QLatin1String("QIconLoaderEngine")) {
+        QString name;
+        stream >> name;
+        return stream.status() == QDataStream::Ok ? QIcon::fromTheme(name) : QIcon();
+    }
+    if (key != QLatin1String("QPixmapIconEngine")) {
+        stream.setStatus(QDataStream::ReadCorruptData);
+        return QIcon();
+    }
+    QIcon icon;
+    qint32 entries = 0;
+    stream >> entries;
+    for (qint32 i = 0; i < entries && hasMore(stream); ++i) {
+        qint32 notNull = 0;
+        stream >> notNull;
+        QImage image;
+        if (notNull && stream.status() == QDataStream::Ok)
+            image = readPngImage(stream);
+        QString fileName;
+        qint32 width = 0;
+        qint32 height = 0;
+        quint32 mode = 0;
+        quint32 state = 0;
+        stream >> fileName >> width >> height >> mode >> state;
+        if (stream.status() != QDataStream::Ok)
+            break;
+        if (mode > QIcon::Selected || state > QIcon::Off)
+            continue;
+        if (!image.isNull()) {
+            icon.addPixmap(QPixmap::fromImage(image), QIcon::Mode(mode), QIcon::State(state));
+        } else if (fileName.startsWith(QLatin1Char(':'))) {
+            // Only compiled-in images: a stored path must not make us open arbitrary files.
+            icon.addFile(fileName, QSize(width, height), QIcon::Mode(mode), QIcon::State(state));
+        }
+    }
+    return icon;
+}
+
+QByteArray uncompressBounded(const QByteArray& data)
+{
+    if (data.size() < 4)
+        return QByteArray();
+    if (bigEndian32(data.constData()) > quint32(RibbonSerializer::maxUncompressedSize))
+        return QByteArray();
+    return qUncompress(data);
+}
+
+Qt::ToolButtonStyle storedStyle(qint32 value)
+{
+    // A damaged style falls back to icon only rather than reaching the button.
+    if (value < Qt::ToolButtonIconOnly || value > Qt::ToolButtonFollowStyle)
+        return Qt::ToolButtonIconOnly;
+    return Qt::ToolButtonStyle(value);
+}
+
+} // namespace
+
+struct RibbonSerializer::ReadContext
+{
+    int budget = RibbonSerializer::maxRestoredItems;
+
+    // Takes one object from the budget; when it is spent the stream is
+    // marked damaged, which ends every reading loop.
+    bool take(QDataStream& stream)
+    {
+        if (budget <= 0) {
+            stream.setStatus(QDataStream::ReadCorruptData);
+            return false;
+        }
+        --budget;
+        return true;
+    }
+};
+
+RibbonSerializer::RibbonSerializer(RibbonBar* ribbon)
+    : m_ribbon(ribbon)
+{
+}
+
+RibbonSerializer::RibbonSerializer(const RibbonSerializer& other) = default;
+
+RibbonSerializer& RibbonSerializer::operator=(const RibbonSerializer& other) = default;
+
+RibbonSerializer::~RibbonSerializer() = default;
+
+QString RibbonSerializer::getActionID(QAction* action)
+{
+    Q_UNUSED(action)
+    return QString();
+}
+
+QAction* RibbonSerializer::getAction(const QString& id) const
+{
+    Q_UNUSED(id)
+    return nullptr;
+}
+
+QString RibbonSerializer::translate(const QString& text) const
+{
+    const QByteArray context = m_ribbon ? m_ribbon->getTranslationContext().toUtf8() : QByteArray();
+    const QByteArray source = text.toUtf8();
+    return QCoreApplication::translate(context.constData(), source.constData(), nullptr, -1);
+}
+
+bool RibbonSerializer::save(QIODevice& device)
+{
+    if (!m_ribbon || !device.isWritable())
+        return false;
+    QDataStream stream(&device);
+    stream << qint32(internalVersion);
+    const int pageCount = m_ribbon->pageCount();
+    stream << qint32(pageCount);
+    for (int p = 0; p < pageCount; ++p) {
+        Qtitan::RibbonPage* page = m_ribbon->page(p);
+        stream << page->title();
+        const int groupCount = page->groupCount();
+        stream << qint32(groupCount);
+        for (int g = 0; g < groupCount; ++g) {
+            Qtitan::RibbonGroup* group = page->groupAt(g);
+            stream << group->title();
+            stream << group->isControlsCentering();
+            stream << false;
+            const QList<QAction*> actions = group->actions();
+            stream << qint32(actions.size());
+            for (QAction* action : actions) {
+                stream << qint32(actionButtonStyle(group, action));
+                stream << qint8(getGroupButtonType(group, action));
+                saveActionImpl(stream, action);
+            }
+        }
+    }
+    return true;
+}
+
+QByteArray RibbonSerializer::save()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    save(buffer);
+    return qCompress(buffer.data());
+}
+
+bool RibbonSerializer::saveQuickBar(QIODevice& device)
+{
+    if (!m_ribbon || !device.isWritable())
+        return false;
+    Qtitan::RibbonQuickAccessBar* bar = m_ribbon->quickAccessBar();
+    QDataStream stream(&device);
+    stream << qint32(internalVersion);
+    stream << qint32(bar ? bar->visibleCount() : 0);
+    const QList<QAction*> actions = bar ? bar->actions() : QList<QAction*>();
+    for (QAction* action : actions) {
+        if (!bar->isActionVisible(action))
+            continue;
+        stream << qint32(actionButtonStyle(bar, action));
+        stream << qint8(getGroupButtonType(bar, action));
+        saveActionImpl(stream, action);
+    }
+    return true;
+}
+
+QByteArray RibbonSerializer::saveQuickBar()
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    saveQuickBar(buffer);
+    return qCompress(buffer.data());
+}
+
+void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action)
+{
+    saveActionImpl(stream, action, 0);
+}
+
+void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action, int depth)
+{
+    const bool separator = action->isSeparator();
+    stream << separator;
+    if (separator)
+        return;
+    const QString id = getActionID(action);
+    stream << id;
+    if (id.isEmpty() || !qobject_cast<QWidgetAction*>(action))
+        stream << action->text();
+    QList<QAction*> subActions;
+    // Menus filled at run time are not stored; nor are menus nested past what
+    // the reader builds (a menu that holds its own action would never end).
+    if (action->menu() && !action->property(dynamicMenuProperty).toBool() && depth < maxMenuDepth)
+        subActions = action->menu()->actions();
+    stream << qint32(subActions.size());
+    for (QAction* subAction : qAsConst(subActions))
+        saveActionImpl(stream, subAction, depth + 1);
+}
+
+bool RibbonSerializer::restore(const QByteArray& data)
+{
+    if (data.isEmpty())
+        return false;
+    QByteArray raw = uncompressBounded(data);
+    QBuffer buffer(&raw);
+    buffer.open(QIODevice::ReadOnly);
+    return restore(buffer);
+}
+
+bool RibbonSerializer::restore(QIODevice& device)
+{
+    if (!m_ribbon || !device.isReadable())
+        return false;
+    QDataStream stream(&device);
+    qint32 version = 0;
+    stream >> version;
+    if (version > internalVersion)
+        return false;
+
+    ReadContext context;
+    m_ribbon->setUpdatesEnabled(false);
+    m_ribbon->clearPages();
+
+    // Every loop also ends where the data does: counts from a damaged stream
+    // must not drive us on past it.
+    qint32 pageCount = 0;
+    stream >> pageCount;
+    for (qint32 p = 0; p < pageCount && hasMore(stream); ++p) {
+        QString pageTitle;
+        stream >> pageTitle;
+        if (stream.status() != QDataStream::Ok || !context.take(stream))
+            break;
+        Qtitan::RibbonPage* page = m_ribbon->addPage(translate(pageTitle));
+        qint32 groupCount = 0;
+        stream >> groupCount;
+        for (qint32 g = 0; g < groupCount && hasMore(stream); ++g) {
+            QString groupTitle;
+            stream >> groupTitle;
+            const QIcon groupIcon = version < 5 ? readIcon(stream) : QIcon();
+            if (stream.status() != QDataStream::Ok || !context.take(stream))
+                break;
+            Qtitan::RibbonGroup* group = page->addGroup(groupIcon, translate(groupTitle));
+            bool centering = false;
+            bool reserved = false;
+            stream >> centering >> reserved;
+            group->setControlsCentering(centering);
+            qint32 actionCount = 0;
+            stream >> actionCount;
+            for (qint32 a = 0; a < actionCount && hasMore(stream); ++a) {
+                qint32 style = 0;
+                qint8 type = 0;
+                stream >> style >> type;
+                QAction* action = loadActionImpl(stream, group, version, context, 0);
+                if (!action)
+                    continue;
+                group->addAction(action);
+                const bool popupWidget = action->property(popupWidgetProperty).toBool();
+                if (!qobject_cast<QWidgetAction*>(action) || popupWidget) {
+                    setActionButtonStyle(group, action, storedStyle(style));
+                    if (!popupWidget && !action->isSeparator()) {
+                        if (QToolButton* button = findActionButton(group, action))
+                            setGroupButtonType(button, GroupButtonType(type));
+                    }
+                }
+            }
+        }
+    }
+
+    m_ribbon->setUpdatesEnabled(true);
+    return true;
+}
+
+bool RibbonSerializer::restoreQuickBar(const QByteArray& data)
+{
+    if (data.isEmpty())
+        return false;
+    QByteArray raw = uncompressBounded(data);
+    QBuffer buffer(&raw);
+    buffer.open(QIODevice::ReadOnly);
+    return restoreQuickBar(buffer);
+}
+
+bool RibbonSerializer::restoreQuickBar(QIODevice& device)
+{
+    if (!m_ribbon || !device.isReadable())
+        return false;
+    QDataStream stream(&device);
+    qint32 version = 0;
+    stream >> version;
+    if (version > internalVersion)
+        return false;
+
+    Qtitan::RibbonQuickAccessBar* bar = m_ribbon->quickAccessBar();
+    if (!bar)
+        return false;
+    bar->clear();
+    bar->setVisible(false);
+
+    ReadContext context;
+    qint32 count = 0;
+    stream >> count;
+    for (qint32 i = 0; i < count && hasMore(stream); ++i) {
+        qint32 style = 0;
+        qint8 type = 0;
+        // The style is not applied: quick access buttons keep the bar's own look.
+        stream >> style >> type;
+        QAction* action = loadActionImpl(stream, bar, version, context, 0);
+        if (!action)
+            continue;
+        bar->addAction(action);
+        bar->setVisible(true);
+        const bool popupWidget = action->property(popupWidgetProperty).toBool();
+        if (!qobject_cast<QWidgetAction*>(action) && !popupWidget && !action->isSeparator()) {
+            if (QToolButton* button = findActionButton(bar, action))
+                setGroupButtonType(button, GroupButtonType(type));
+        }
+    }
+    return true;
+}
+
+QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, int version)
+{
+    ReadContext context;
+    return loadActionImpl(stream, parent, version, context, 0);
+}
+
+QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, int version,
+                                          ReadContext& context, int depth)
+{
+    bool separator = false;
+    stream >> separator;
+    if (stream.status() != QDataStream::Ok)
+        return nullptr;
+    if (separator) {
+        if (!context.take(stream))
+            return nullptr;
+        auto* action = new QAction(parent);
+        action->setSeparator(true);
+        return action;
+    }
+
+    QString id;
+    stream >> id;
+    QAction* action = nullptr;
+    if (!id.isEmpty()) {
+        action = getAction(id);
+        if (!qobject_cast<QWidgetAction*>(action)) {
+            QString ignoredText;
+            stream >> ignoredText;
+            if (version >= 1 && version <= 4) {
+                bool hasIcon = false;
+                stream >> hasIcon;
+                if (hasIcon) {
+                    const QIcon icon = readIcon(stream);
+                    if (action && stream.status() == QDataStream::Ok)
+                        action->setIcon(icon);
+                }
+            }
+        }
+        if (stream.status() != QDataStream::Ok)
+            return nullptr;
+    } else {
+        QString text;
+        stream >> text;
+        const QIcon icon = version < 5 ? readIcon(stream) : QIcon();
+        if (stream.status() != QDataStream::Ok || !context.take(stream))
+            return nullptr;
+        action = new QAction(icon, translate(text), parent);
+    }
+
+    qint32 subCount = 0;
+    stream >> subCount;
+    if (subCount < 1)
+        return action;
+    if (depth >= maxMenuDepth) {
+        // Deeper menus are read over so that the stream stays in step, but not built.
+        skipActionRecords(stream, subCount, version);
+        return action;
+    }
+    if (!context.take(stream))
+        return action;
+    auto* menu = new QMenu(parent);
+    for (qint32 i = 0; i < subCount && hasMore(stream); ++i) {
+        QAction* subAction = loadActionImpl(stream, menu, version, context, depth + 1);
+        if (!subAction)
+            continue;
+        menu->addAction(subAction);
+        if (version >= 5 && action && i == 0 && !subAction->icon().isNull())
+            action->setIcon(subAction->icon());
+    }
+    if (!action) {
+        delete menu;
+        return nullptr;
+    }
+    action->setMenu(menu);
+    return action;
+}
+
+void RibbonSerializer::skipActionRecords(QDataStream& stream, qint64 count, int version)
+{
+    // Iterative on purpose: the nesting of the skipped records is unbounded.
+    qint64 pending = count;
+    while (pending > 0 && hasMore(stream)) {
+        --pending;
+        bool separator = false;
+        stream >> separator;
+        if (separator)
+            continue;
+        QString id;
+        stream >> id;
+        QString text;
+        if (!id.isEmpty()) {
+            if (!qobject_cast<QWidgetAction*>(getAction(id))) {
+                stream >> text;
+                if (version >= 1 && version <= 4) {
+                    bool hasIcon = false;
+                    stream >> hasIcon;
+                    if (hasIcon)
+                        readIcon(stream);
+                }
+            }
+        } else {
+            stream >> text;
+            if (version < 5)
+                readIcon(stream);
+        }
+        qint32 subCount = 0;
+        stream >> subCount;
+        if (subCount > 0)
+            pending += subCount;
+    }
+}
+
+} // namespace ui

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "TessaroGlobal.h"
+
+#include <QByteArray>
+#include <QString>
+
+class QAction;
+class QDataStream;
+class QIODevice;
+class QWidget;
+
+namespace ui {
+
+class RibbonBar;
+
+/// Writes the user's ribbon layout (pages, groups, the actions of each group
+/// with their button style, group button type, drop-down menus and
+/// separators) and, separately, the quick access bar to streams, and
+/// rebuilds them. Host actions are stored by identifier: derive from the
+/// serializer and override getActionID() and getAction(). Actions without an
+/// identifier are stored by their text and come back as new actions.
+///
+/// The byte-array forms compress with qCompress(). Restoring tolerates
+/// damaged input: reading stops where the data ends, menus nested deeper
+/// than maxMenuDepth levels are read over without being built, at most
+/// maxRestoredItems objects are created, and an array
+/// that claims to uncompress to more than maxUncompressedSize bytes is
+/// treated as one that does not uncompress.
+class TESSARO_EXPORT RibbonSerializer
+{
+public:
+    /// The format version written, and the highest one accepted.
+    static const int internalVersion = 5;
+    /// Drop-down menus below this nesting level are skipped on reading and
+    /// not written on saving.
+    static const int maxMenuDepth = 64;
+    /// The largest uncompressed size a stored array may claim.
+    static const int maxUncompressedSize = 64 * 1024 * 1024;
+    /// The most pages, groups, actions and menus one restore creates; a
+    /// stream that asks for more is read as if it ended there.
+    static const int maxRestoredItems = 65536;
+
+    /// A serializer of @p ribbon (not owned).
+    explicit RibbonSerializer(RibbonBar* ribbon);
+    RibbonSerializer(const RibbonSerializer& other);
+    RibbonSerializer& operator=(const RibbonSerializer& other);
+    virtual ~RibbonSerializer();
+
+    /// Writes the ribbon layout to @p device; false when it is not writable.
+    bool save(QIODevice& device);
+    /// The ribbon layout, compressed.
+    QByteArray save();
+    /// Rebuilds the ribbon layout from @p device: false (nothing changed)
+    /// when it is not readable or holds a newer version.
+    bool restore(QIODevice& device);
+    /// Rebuilds the ribbon layout from a compressed array; false for an empty one.
+    bool restore(const QByteArray& data);
+
+    /// Writes the visible actions of the quick access bar to @p device.
+    bool saveQuickBar(QIODevice& device);
+    /// The quick access bar, compressed.
+    QByteArray saveQuickBar();
+    /// Rebuilds the quick access bar from @p device.
+    bool restoreQuickBar(QIODevice& device);
+    /// Rebuilds the quick access bar from a compressed array; false for an empty one.
+    bool restoreQuickBar(const QByteArray& data);
+
+protected:
+    /// The identifier under which @p action is stored; empty (the base) stores
+    /// the action by its text.
+    virtual QString getActionID(QAction* action);
+    /// The host's action for @p id, or null (the base) when unknown.
+    virtual QAction* getAction(const QString& id) const;
+
+private:
+    void saveActionImpl(QDataStream& stream, QAction* action);
+    void saveActionImpl(QDataStream& stream, QAction* action, int depth);
+    QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version);
+    struct ReadContext;
+    QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version, ReadContext& context, int depth);
+    void skipActionRecords(QDataStream& stream, qint64 count, int version);
+    QString translate(const QString& text) const;
+
+    RibbonBar* m_ribbon;
+};
+
+} // namespace ui

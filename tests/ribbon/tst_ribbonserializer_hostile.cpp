@@ -1,0 +1,570 @@
+#include "ribbontestutil.h"
+
+#include <QtitanRibbon.h>
+
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QRandomGenerator>
+#include <QtTest>
+
+using namespace testutil;
+
+namespace {
+
+bool restoreLayout(ui::RibbonSerializer& serializer, QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return serializer.restore(buffer);
+}
+
+bool restoreQuick(ui::RibbonSerializer& serializer, QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return serializer.restoreQuickBar(buffer);
+}
+
+int actionCount(ui::RibbonBar& ribbon)
+{
+    int count = 0;
+    for (int p = 0; p < ribbon.pageCount(); ++p) {
+        for (int g = 0; g < ribbon.page(p)->groupCount(); ++g)
+            count += ribbon.page(p)->groupAt(g)->actions().size();
+    }
+    return count;
+}
+
+int menuDepth(QAction* action)
+{
+    int depth = 0;
+    while (action && action->menu() && !action->menu()->actions().isEmpty()) {
+        action = action->menu()->actions().first();
+        ++depth;
+    }
+    return depth;
+}
+
+// A valid layout and quick access stream with a bit of everything.
+struct Sample
+{
+    ui::RibbonBar ribbon{QStringLiteral("ctx")};
+    QObject host;
+    QList<QAction*> hostActions;
+    QByteArray layout;
+    QByteArray quick;
+
+    Sample()
+    {
+        for (int i = 0; i < 6; ++i) {
+            auto* action = new QAction(colorIcon(Qt::red), QStringLiteral("Команда %1").arg(i), &host);
+            action->setObjectName(QStringLiteral("c%1").arg(i));
+            hostActions << action;
+        }
+        auto* menu = new QMenu(&ribbon);
+        menu->addAction(hostActions[3]);
+        auto* nested = new QAction(QStringLiteral("Вложенное"), &ribbon);
+        auto* nestedMenu = new QMenu(&ribbon);
+        nestedMenu->addAction(QStringLiteral("Глубже"));
+        nestedMenu->addSeparator();
+        nested->setMenu(nestedMenu);
+        menu->addAction(nested);
+        hostActions[2]->setMenu(menu);
+        for (int p = 0; p < 3; ++p) {
+            Qtitan::RibbonPage* page = ribbon.addPage(QStringLiteral("Страница %1").arg(p));
+            for (int g = 0; g < 2; ++g) {
+                Qtitan::RibbonGroup* group = page->addGroup(QStringLiteral("Группа %1").arg(g));
+                group->addAction(hostActions[(p + g) % 2]);
+                group->addAction(new QAction(QStringLiteral("Текст %1.%2").arg(p).arg(g), &ribbon));
+                auto* separator = new QAction(&ribbon);
+                separator->setSeparator(true);
+                group->addAction(separator);
+            }
+        }
+        Qtitan::RibbonGroup* commands = ribbon.page(0)->groupAt(0);
+        commands->addAction(hostActions[2]);
+        ui::setGroupButtonType(commands, hostActions[2], ui::Dynamic);
+        ui::setActionButtonStyle(commands, hostActions[0], Qt::ToolButtonTextUnderIcon);
+        ribbon.addQuickAction(hostActions[4]);
+        ribbon.addQuickAction(hostActions[2]);
+        ribbon.addQuickAction(new QAction(QStringLiteral("Быстрая"), &ribbon));
+        IdSerializer serializer = makeSerializer(&ribbon);
+        QBuffer layoutBuffer(&layout);
+        layoutBuffer.open(QIODevice::WriteOnly);
+        serializer.save(layoutBuffer);
+        QBuffer quickBuffer(&quick);
+        quickBuffer.open(QIODevice::WriteOnly);
+        serializer.saveQuickBar(quickBuffer);
+    }
+
+    IdSerializer makeSerializer(ui::RibbonBar* target) const
+    {
+        IdSerializer serializer(target);
+        for (QAction* action : hostActions)
+            serializer.addHostAction(action);
+        return serializer;
+    }
+};
+
+// Damaged arrays make qUncompress complain; that is expected here.
+void quietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    Q_UNUSED(type)
+    Q_UNUSED(context)
+    Q_UNUSED(message)
+}
+
+} // namespace
+
+class tst_RibbonSerializerHostile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hugePageCountWithNothingAfter();
+    void hugeCountsWithSomeData();
+    void everyTruncation();
+    void everyTruncationCompressed();
+    void deepMenuNesting();
+    void deepNestingOnQuickBar();
+    void hugeSubActionCount();
+    void uncompressedSizeClaim();
+    void itemBudget();
+    void oversizedIconImage();
+    void unknownIconEngine();
+    void iconFileNames();
+    void damagedStyleValues();
+    void randomBytes();
+    void bitFlips();
+};
+
+void tst_RibbonSerializerHostile::hugePageCountWithNothingAfter()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ribbon.addPage(QStringLiteral("Старая"));
+    ui::RibbonSerializer serializer(&ribbon);
+    Writer w;
+    w << qint32(5) << qint32(0x7fffffff);
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QCOMPARE(ribbon.pageCount(), 0);
+    QVERIFY(serializer.restore(qCompress(w.bytes)));
+    QCOMPARE(ribbon.pageCount(), 0);
+
+    Writer q;
+    q << qint32(5) << qint32(0x7fffffff);
+    QVERIFY(restoreQuick(serializer, q.bytes));
+    QVERIFY(ribbon.quickAccessBar()->actions().isEmpty());
+    QVERIFY(serializer.restoreQuickBar(qCompress(q.bytes)));
+    QVERIFY(timer.elapsed() < 5000);
+}
+
+void tst_RibbonSerializerHostile::hugeCountsWithSomeData()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    Writer w;
+    w << qint32(5) << qint32(0x7fffffff) << QStringLiteral("Первая") << qint32(0x7fffffff);
+    w << QStringLiteral("Группа") << true << false << qint32(0x7fffffff);
+    w.entry(3, 0, Record::plain(QStringLiteral("Единственная")));
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QCOMPARE(ribbon.pageCount(), 1);
+    QCOMPARE(ribbon.page(0)->title(), QStringLiteral("Первая"));
+    QCOMPARE(ribbon.page(0)->groupCount(), 1);
+    QCOMPARE(ribbon.page(0)->groupAt(0)->actions().size(), 1);
+    QCOMPARE(ribbon.page(0)->groupAt(0)->actions()[0]->text(), QStringLiteral("Единственная"));
+
+    Writer q;
+    q << qint32(5) << qint32(0x7fffffff);
+    q.entry(0, 0, Record::plain(QStringLiteral("Быстрая")));
+    QVERIFY(restoreQuick(serializer, q.bytes));
+    QCOMPARE(ribbon.quickAccessBar()->actions().size(), 1);
+    // Negative counts read nothing.
+    Writer negative;
+    negative << qint32(5) << qint32(-5) << QStringLiteral("Нет");
+    QVERIFY(restoreLayout(serializer, negative.bytes));
+    QCOMPARE(ribbon.pageCount(), 0);
+}
+
+void tst_RibbonSerializerHostile::everyTruncation()
+{
+    Sample sample;
+    QVERIFY(sample.layout.size() > 100);
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    IdSerializer serializer = sample.makeSerializer(&ribbon);
+    int previousActions = 0;
+    for (int size = 0; size <= sample.layout.size(); ++size) {
+        QVERIFY(restoreLayout(serializer, sample.layout.left(size)));
+        QVERIFY(ribbon.pageCount() <= 3);
+        // What is read so far only grows with the data.
+        const int actions = actionCount(ribbon);
+        QVERIFY2(actions >= previousActions, qPrintable(QString::number(size)));
+        previousActions = actions;
+    }
+    QCOMPARE(ribbon.pageCount(), 3);
+    QCOMPARE(actionCount(ribbon), actionCount(sample.ribbon));
+    for (int size = 0; size <= sample.quick.size(); ++size) {
+        QVERIFY(restoreQuick(serializer, sample.quick.left(size)));
+        QVERIFY(ribbon.quickAccessBar()->actions().size() <= 3);
+    }
+    QCOMPARE(ribbon.quickAccessBar()->actions().size(), 3);
+}
+
+void tst_RibbonSerializerHostile::everyTruncationCompressed()
+{
+    Sample sample;
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    IdSerializer serializer = sample.makeSerializer(&ribbon);
+    QtMessageHandler previous = qInstallMessageHandler(quietHandler);
+    auto restoreHandler = qScopeGuard([previous] { qInstallMessageHandler(previous); });
+    for (int size = 1; size <= sample.layout.size(); size += 7) {
+        QVERIFY(serializer.restore(qCompress(sample.layout.left(size))));
+        QVERIFY(ribbon.pageCount() <= 3);
+    }
+    const QByteArray compressed = qCompress(sample.layout);
+    for (int size = 1; size < compressed.size(); ++size) {
+        QVERIFY(serializer.restore(compressed.left(size)));
+        QVERIFY(serializer.restoreQuickBar(compressed.left(size)));
+    }
+    QVERIFY(serializer.restore(compressed));
+    QCOMPARE(ribbon.pageCount(), 3);
+}
+
+namespace {
+
+// One action record nesting @p depth menus, each with a single sub-action.
+QByteArray nestedRecords(int depth)
+{
+    Writer w;
+    for (int i = 0; i < depth; ++i)
+        w << false << QString() << QStringLiteral("m") << qint32(1);
+    w << false << QString() << QStringLiteral("лист") << qint32(0);
+    return w.bytes;
+}
+
+} // namespace
+
+void tst_RibbonSerializerHostile::deepMenuNesting()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    for (int depth : {63, 64, 65, 200000}) {
+        Writer w;
+        w << qint32(5) << qint32(2) << QStringLiteral("П") << qint32(2);
+        w << QStringLiteral("Г") << false << false << qint32(2);
+        w << qint32(0) << qint8(0);
+        w.buffer.write(nestedRecords(depth));
+        w.entry(0, 0, Record::plain(QStringLiteral("после")));
+        w << QStringLiteral("Вторая") << false << false << qint32(0);
+        w << QStringLiteral("Стр 2") << qint32(0);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(restoreLayout(serializer, w.bytes));
+        QVERIFY(timer.elapsed() < 20000);
+        // Deeper levels are read over, so the rest of the stream still comes back.
+        QCOMPARE(ribbon.pageCount(), 2);
+        QCOMPARE(ribbon.page(0)->groupCount(), 2);
+        const QList<QAction*> actions = ribbon.page(0)->groupAt(0)->actions();
+        QCOMPARE(actions.size(), 2);
+        QCOMPARE(actions[1]->text(), QStringLiteral("после"));
+        QCOMPARE(menuDepth(actions[0]), qMin(depth, int(ui::RibbonSerializer::maxMenuDepth)));
+        QCOMPARE(ribbon.page(1)->title(), QStringLiteral("Стр 2"));
+        if (depth <= 64)
+            QVERIFY(serializer.save() == qCompress([&] {
+                Writer e;
+                e << qint32(5) << qint32(2) << QStringLiteral("П") << qint32(2);
+                e << QStringLiteral("Г") << false << false << qint32(2);
+                e << qint32(0) << qint8(0);
+                e.buffer.write(nestedRecords(depth));
+                e.entry(0, 0, Record::plain(QStringLiteral("после")));
+                e << QStringLiteral("Вторая") << false << false << qint32(0);
+                e << QStringLiteral("Стр 2") << qint32(0);
+                return e.bytes;
+            }()));
+    }
+}
+
+void tst_RibbonSerializerHostile::deepNestingOnQuickBar()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    Writer w;
+    w << qint32(5) << qint32(2);
+    w << qint32(0) << qint8(1);
+    w.buffer.write(nestedRecords(100000));
+    w.entry(0, 0, Record::plain(QStringLiteral("после")));
+    QVERIFY(serializer.restoreQuickBar(qCompress(w.bytes)));
+    const QList<QAction*> actions = ribbon.quickAccessBar()->actions();
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions[1]->text(), QStringLiteral("после"));
+    QCOMPARE(ui::getGroupButtonType(ribbon.quickAccessBar(), actions[0]), ui::Dynamic);
+}
+
+void tst_RibbonSerializerHostile::hugeSubActionCount()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    Writer w;
+    w << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(1);
+    w << QStringLiteral("Г") << false << false << qint32(1);
+    w << qint32(0) << qint8(1) << false << QString() << QStringLiteral("меню") << qint32(0x7fffffff);
+    w << false << QString() << QStringLiteral("один") << qint32(0);
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QAction* action = ribbon.page(0)->groupAt(0)->actions().value(0);
+    QVERIFY(action);
+    QCOMPARE(action->menu()->actions().size(), 1);
+
+    // The same past the depth bound, where records are only read over.
+    Writer deep;
+    deep << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(1);
+    deep << QStringLiteral("Г") << false << false << qint32(1) << qint32(0) << qint8(0);
+    for (int i = 0; i < ui::RibbonSerializer::maxMenuDepth; ++i)
+        deep << false << QString() << QStringLiteral("m") << qint32(1);
+    deep << false << QString() << QStringLiteral("m") << qint32(0x7fffffff);
+    deep << true << true << false << QString() << QStringLiteral("x") << qint32(0x7fffffff);
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(restoreLayout(serializer, deep.bytes));
+    QVERIFY(timer.elapsed() < 5000);
+    QCOMPARE(menuDepth(ribbon.page(0)->groupAt(0)->actions().value(0)), int(ui::RibbonSerializer::maxMenuDepth));
+}
+
+void tst_RibbonSerializerHostile::uncompressedSizeClaim()
+{
+    ui::RibbonBar source(QStringLiteral("ctx"));
+    source.addPage(QStringLiteral("Главная"))->addGroup(QStringLiteral("Группа"));
+    source.addQuickAction(new QAction(QStringLiteral("Быстрая"), &source));
+    ui::RibbonSerializer sourceSerializer(&source);
+    const QByteArray layout = sourceSerializer.save();
+    const QByteArray quick = sourceSerializer.saveQuickBar();
+
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    auto withClaim = [](QByteArray data, quint32 claim) {
+        data[0] = char(claim >> 24);
+        data[1] = char(claim >> 16);
+        data[2] = char(claim >> 8);
+        data[3] = char(claim);
+        return data;
+    };
+    // A claim above the ceiling is not believed: the array counts as one
+    // that does not uncompress.
+    for (quint32 claim : {quint32(ui::RibbonSerializer::maxUncompressedSize) + 1, 0x7fffffffu, 0xffffffffu}) {
+        ribbon.addPage(QStringLiteral("Старая"));
+        QVERIFY(serializer.restore(withClaim(layout, claim)));
+        QCOMPARE(ribbon.pageCount(), 0);
+        ribbon.addQuickAction(new QAction(QStringLiteral("x"), &ribbon));
+        QVERIFY(serializer.restoreQuickBar(withClaim(quick, claim)));
+        QVERIFY(ribbon.quickAccessBar()->actions().isEmpty());
+    }
+    // Claims up to the ceiling are fine.
+    QVERIFY(serializer.restore(withClaim(layout, 1024 * 1024)));
+    QCOMPARE(ribbon.pageCount(), 1);
+    QCOMPARE(ribbon.page(0)->title(), QStringLiteral("Главная"));
+    QVERIFY(serializer.restoreQuickBar(withClaim(quick, 4096)));
+    QCOMPARE(ribbon.quickAccessBar()->actions().size(), 1);
+    // Shorter than the size header.
+    QVERIFY(serializer.restore(QByteArray("\x00\x00", 2)));
+    QCOMPARE(ribbon.pageCount(), 0);
+}
+
+void tst_RibbonSerializerHostile::itemBudget()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    const int separators = ui::RibbonSerializer::maxRestoredItems + 1000;
+    Writer w;
+    w << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(1);
+    w << QStringLiteral("Г") << false << false << qint32(separators);
+    for (int i = 0; i < separators; ++i)
+        w << qint32(4) << qint8(0) << true;
+    QVERIFY(serializer.restore(qCompress(w.bytes)));
+    const int restored = ribbon.page(0)->groupAt(0)->actions().size();
+    QCOMPARE(restored, ui::RibbonSerializer::maxRestoredItems - 2);
+}
+
+namespace {
+
+QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
+{
+    QByteArray chunk;
+    QDataStream s(&chunk, QIODevice::WriteOnly);
+    s << quint32(data.size());
+    s.writeRawData(type.constData(), 4);
+    s.writeRawData(data.constData(), data.size());
+    s << quint32(0);
+    return chunk;
+}
+
+// An old-version layout whose single text action carries @p iconBytes.
+QByteArray oldStreamWithIcon(const QByteArray& iconBytes)
+{
+    Writer w;
+    w << qint32(4) << qint32(1) << QStringLiteral("П") << qint32(1);
+    w << QStringLiteral("Г") << QIcon() << false << false << qint32(2);
+    w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("с иконкой");
+    w.buffer.write(iconBytes);
+    w << qint32(0);
+    w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("вторая") << QIcon() << qint32(0);
+    return w.bytes;
+}
+
+} // namespace
+
+void tst_RibbonSerializerHostile::oversizedIconImage()
+{
+    QByteArray header;
+    QDataStream hs(&header, QIODevice::WriteOnly);
+    hs << quint32(30000) << quint32(30000) << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0);
+    QByteArray png("\x89PNG\r\n\x1a\n", 8);
+    png += pngChunk("IHDR", header);
+    png += pngChunk("IDAT", QByteArray(64, 'x'));
+    png += pngChunk("IEND", QByteArray());
+    Writer icon;
+    icon << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
+    icon.buffer.write(png);
+    icon << QString() << qint32(16) << qint32(16) << quint32(0) << quint32(0);
+
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon.bytes)));
+    // Reading stops at the damaged icon; what came before stays.
+    QCOMPARE(ribbon.pageCount(), 1);
+    QCOMPARE(ribbon.page(0)->groupCount(), 1);
+    QVERIFY(ribbon.page(0)->groupAt(0)->actions().isEmpty());
+
+    // A chunk length beyond the data.
+    QByteArray longChunk("\x89PNG\r\n\x1a\n", 8);
+    longChunk += QByteArray::fromHex("7ffffff0") + "IHDR";
+    Writer icon2;
+    icon2 << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
+    icon2.buffer.write(longChunk);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon2.bytes)));
+    QCOMPARE(ribbon.pageCount(), 1);
+
+    // A good icon in the same place is read and the stream stays in step.
+    Writer good;
+    good << colorIcon(Qt::green);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(good.bytes)));
+    const QList<QAction*> actions = ribbon.page(0)->groupAt(0)->actions();
+    QCOMPARE(actions.size(), 2);
+    QCOMPARE(iconColor(actions[0]->icon()), QColor(Qt::green).rgb());
+    QCOMPARE(actions[1]->text(), QStringLiteral("вторая"));
+}
+
+void tst_RibbonSerializerHostile::unknownIconEngine()
+{
+    Writer icon;
+    icon << QStringLiteral("svg") << QByteArray(100, 'x');
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon.bytes)));
+    QCOMPARE(ribbon.pageCount(), 1);
+    QVERIFY(ribbon.page(0)->groupAt(0)->actions().isEmpty());
+
+    // A themed icon is just a name.
+    Writer themed;
+    themed << QStringLiteral("QIconLoaderEngine") << QStringLiteral("document-open");
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(themed.bytes)));
+    QCOMPARE(ribbon.page(0)->groupAt(0)->actions().size(), 2);
+}
+
+void tst_RibbonSerializerHostile::iconFileNames()
+{
+    Writer icon;
+    icon << QStringLiteral("QPixmapIconEngine") << qint32(2);
+    icon << qint32(0) << QStringLiteral("/etc/passwd") << qint32(16) << qint32(16) << quint32(0) << quint32(0);
+    icon << qint32(0) << QStringLiteral(":/Tessaro/logo.png") << qint32(32) << qint32(32) << quint32(0) << quint32(1);
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon.bytes)));
+    const QList<QAction*> actions = ribbon.page(0)->groupAt(0)->actions();
+    QCOMPARE(actions.size(), 2);
+    // Only compiled-in images are taken from stored file names.
+    QVERIFY(!actions[0]->icon().isNull());
+    QCOMPARE(actions[0]->icon().availableSizes(), (QList<QSize>{QSize(32, 32)}));
+}
+
+void tst_RibbonSerializerHostile::damagedStyleValues()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    Writer w;
+    w << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(1);
+    w << QStringLiteral("Г") << false << false << qint32(4);
+    w.entry(-7, qint8(-128), Record::plain(QStringLiteral("a")));
+    w.entry(123456, 127, Record::plain(QStringLiteral("b")));
+    w.entry(4, 0, Record::plain(QStringLiteral("c")));
+    w.entry(2, 0, Record::plain(QStringLiteral("d")));
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    Qtitan::RibbonGroup* group = ribbon.page(0)->groupAt(0);
+    const QList<QAction*> actions = group->actions();
+    QCOMPARE(actions.size(), 4);
+    QCOMPARE(ui::actionButtonStyle(group, actions[0]), Qt::ToolButtonIconOnly);
+    QCOMPARE(ui::actionButtonStyle(group, actions[1]), Qt::ToolButtonIconOnly);
+    QCOMPARE(ui::actionButtonStyle(group, actions[3]), Qt::ToolButtonTextBesideIcon);
+    // Any non-zero type other than 1 behaves like 2.
+    QCOMPARE(int(ui::getGroupButtonType(group, actions[0])), -128);
+    QCOMPARE(int(ui::getGroupButtonType(group, actions[1])), 127);
+}
+
+void tst_RibbonSerializerHostile::randomBytes()
+{
+    QtMessageHandler previous = qInstallMessageHandler(quietHandler);
+    QScopedPointer<ui::RibbonBar> ribbon;
+    QRandomGenerator random(20261122);
+    for (int round = 0; round < 3000; ++round) {
+        // Text actions of restored quick access bars stay with the bar, so
+        // start from a fresh ribbon now and then.
+        if (round % 100 == 0)
+            ribbon.reset(new ui::RibbonBar(QStringLiteral("ctx")));
+        ui::RibbonSerializer serializer(ribbon.data());
+        QByteArray bytes(int(random.bounded(1, 400)), Qt::Uninitialized);
+        for (char& byte : bytes)
+            byte = char(random.bounded(256));
+        // Small versions and counts make the reader go further.
+        if (round % 2 && bytes.size() >= 8) {
+            bytes[0] = bytes[1] = bytes[2] = 0;
+            bytes[3] = char(random.bounded(6));
+            bytes[4] = bytes[5] = bytes[6] = 0;
+        }
+        restoreLayout(serializer, bytes);
+        restoreQuick(serializer, bytes);
+        serializer.restore(bytes);
+        serializer.restoreQuickBar(bytes);
+        serializer.restore(qCompress(bytes));
+        serializer.restoreQuickBar(qCompress(bytes));
+        QCoreApplication::sendPostedEvents();
+    }
+    qInstallMessageHandler(previous);
+    QVERIFY(ribbon->pageCount() >= 0);
+}
+
+void tst_RibbonSerializerHostile::bitFlips()
+{
+    Sample sample;
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    IdSerializer serializer = sample.makeSerializer(&ribbon);
+    QRandomGenerator random(7);
+    for (int round = 0; round < 1500; ++round) {
+        QByteArray layout = sample.layout;
+        QByteArray quick = sample.quick;
+        for (int flips = int(random.bounded(1, 4)); flips > 0; --flips) {
+            const int at = int(random.bounded(layout.size()));
+            layout[at] = char(layout.at(at) ^ (1 << random.bounded(8)));
+            const int quickAt = int(random.bounded(quick.size()));
+            quick[quickAt] = char(quick.at(quickAt) ^ (1 << random.bounded(8)));
+        }
+        QVERIFY(restoreLayout(serializer, layout) || layout.left(4) != sample.layout.left(4));
+        QVERIFY(restoreQuick(serializer, quick) || quick.left(4) != sample.quick.left(4));
+        QVERIFY(ribbon.pageCount() <= 0x7fff);
+        QCoreApplication::sendPostedEvents();
+    }
+    // Undamaged streams still restore in full afterwards.
+    QVERIFY(restoreLayout(serializer, sample.layout));
+    QCOMPARE(ribbon.pageCount(), 3);
+}
+
+QTEST_MAIN(tst_RibbonSerializerHostile)
+#include "tst_ribbonserializer_hostile.moc"
