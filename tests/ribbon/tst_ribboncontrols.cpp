@@ -634,6 +634,7 @@ void tst_RibbonControls::moveActionToEnd()
     RibbonFixture f(3);
     ui::setActionButtonStyle(f.group, f.actions[0], Qt::ToolButtonTextUnderIcon);
     ui::setActionButtonStyle(f.group, f.actions[1], Qt::ToolButtonTextBesideIcon);
+    ui::setActionButtonStyle(f.group, f.actions[2], Qt::ToolButtonIconOnly);
     ui::moveAction(f.group, 0, 99);
     QCOMPARE(f.group->actions(), (QList<QAction*>{f.actions[1], f.actions[2], f.actions[0]}));
     QCOMPARE(ui::actionButtonStyle(f.group, f.actions[0]), Qt::ToolButtonTextUnderIcon);
@@ -674,6 +675,7 @@ void tst_RibbonControls::updateGroupKeepsOnlyStyles()
     f.actions[0]->setMenu(menu);
     ui::setActionButtonStyle(f.group, f.actions[0], Qt::ToolButtonTextUnderIcon);
     ui::setActionButtonStyle(f.group, f.actions[1], Qt::ToolButtonTextBesideIcon);
+    ui::setActionButtonStyle(f.group, f.actions[2], Qt::ToolButtonIconOnly);
     ui::setGroupButtonType(f.group, f.actions[0], ui::Dynamic);
     QCOMPARE(ui::getGroupButtonType(f.group, f.actions[0]), ui::Dynamic);
 
