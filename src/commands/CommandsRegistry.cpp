@@ -32,7 +32,12 @@ private:
 
 int actionId(const QAction* action)
 {
-    return static_cast<int>(action->data().toUInt());
+    // Runs for every action on every wake-up: skip the conversion machinery
+    // for the int that addCommand() stores.
+    const QVariant data = action->data();
+    if (data.userType() == QMetaType::Int)
+        return *static_cast<const int*>(data.constData());
+    return static_cast<int>(data.toUInt());
 }
 
 } // namespace
