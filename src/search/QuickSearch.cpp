@@ -65,21 +65,35 @@ void QuickSearchWidget::setSourceImpl(const QList<QAction*>& actions, const QStr
 void QuickSearchWidget::showResultPopup()
 {
     m_popup->close();
-    m_popup->clear();
 
     const QStringList words = text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    if (words.isEmpty() || words.first().size() < 3)
-        return;
-
-    const QList<QAction*> results = m_entries->match(words);
+    QList<QAction*> results;
+    if (!words.isEmpty() && words.first().size() >= 3)
+        results = m_entries->match(words);
+    setPopupActions(results);
     if (results.isEmpty())
         return;
-    m_popup->addActions(results);
 
     m_popup->adjustSize();
     QPoint topLeft = mapToGlobal(QPoint(0, 0));
     topLeft.ry() -= m_popup->height();
     m_popup->popup(topLeft);
+}
+
+// Makes the popup hold exactly the given actions. The entries it already
+// shows in the right places stay: every action added to a menu costs two
+// connections and a scan of its action list, and successive keystrokes often
+// find the same leading results.
+void QuickSearchWidget::setPopupActions(const QList<QAction*>& actions)
+{
+    const QList<QAction*> shown = m_popup->actions();
+    int kept = 0;
+    while (kept < shown.size() && kept < actions.size() && shown.at(kept) == actions.at(kept))
+        ++kept;
+    for (int i = shown.size() - 1; i >= kept; --i)
+        m_popup->removeAction(shown.at(i));
+    for (int i = kept; i < actions.size(); ++i)
+        m_popup->addAction(actions.at(i));
 }
 
 void QuickSearchWidget::startEdit()

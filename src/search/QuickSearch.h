@@ -57,6 +57,7 @@ private Q_SLOTS:
 
 private:
     void setSourceImpl(const QList<QAction*>& actions, const QString& prefix);
+    void setPopupActions(const QList<QAction*>& actions);
 
     QScopedPointer<QuickSearchIndex> m_entries;
     QMenu* m_popup;

@@ -132,6 +132,7 @@ private Q_SLOTS:
     void registryStateShownInPopup();
     void typingOnPopupContinues();
     void navigationKeysStayWithPopup();
+    void reopenedPopupHasNoActiveEntry();
     void escapeReachesBoxAndMenu();
     void leftClickShowsResults();
     void popupStandsAboveBox();
@@ -807,6 +808,32 @@ void tst_QuickSearch::navigationKeysStayWithPopup()
     QCOMPARE(returnPressed.count(), 0);
     QCOMPARE(edited.count(), 0);
     QCOMPARE(box.text(), QStringLiteral("open"));
+}
+
+void tst_QuickSearch::reopenedPopupHasNoActiveEntry()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent", "Edit/Copy"});
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+
+    type(box, "open");
+    QMenu* popup = popupOf(box);
+    const QList<QAction*> before = popup->actions();
+    QTest::keyClick(popup, Qt::Key_Down);
+    QVERIFY(popup->activeAction());
+
+    // A blank changes no result: the same entries come back, none of them active.
+    QTest::keyClick(popup, ' ');
+    QCOMPARE(box.text(), QStringLiteral("open "));
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popup->actions(), before);
+    QVERIFY(!popup->activeAction());
+
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::keyClick(popup, 'r');
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open recent"}));
+    QVERIFY(!popup->activeAction());
 }
 
 void tst_QuickSearch::escapeReachesBoxAndMenu()
