@@ -9,6 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QDateTime>
 #include <QDir>
 #include <QFileDialog>
@@ -16,6 +17,7 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QTextList>
 #include <QTimer>
@@ -276,10 +278,18 @@ void DemoCommands::registerEdit()
     onDocument(EditCut, [](DemoDocument* doc) { doc->cutText(); },
                [](DemoDocument* doc) { return doc->hasSelection() && !doc->isReadOnly(); });
     onDocument(EditCopy, [](DemoDocument* doc) { doc->copy(); }, selected);
-    onDocument(EditPaste, [](DemoDocument* doc) { doc->pasteText(false); },
-               [](DemoDocument* doc) { return doc->canPasteText(); });
-    onDocument(EditPastePlain, [](DemoDocument* doc) { doc->pasteText(true); },
-               [](DemoDocument* doc) { return doc->canPasteText(); });
+    // The clipboard is asked once per change, not on every refresh: on X11
+    // each question is a round trip to the server.
+    QClipboard* clipboard = QApplication::clipboard();
+    const auto readClipboard = [this, clipboard] {
+        const QMimeData* data = clipboard->mimeData();
+        m_clipboardHasText = data && (data->hasText() || data->hasHtml());
+    };
+    readClipboard();
+    connect(clipboard, &QClipboard::dataChanged, this, readClipboard);
+    const auto canPaste = [this](DemoDocument* doc) { return m_clipboardHasText && !doc->isReadOnly(); };
+    onDocument(EditPaste, [](DemoDocument* doc) { doc->pasteText(false); }, canPaste);
+    onDocument(EditPastePlain, [](DemoDocument* doc) { doc->pasteText(true); }, canPaste);
     onDocument(EditDelete, [](DemoDocument* doc) { doc->deleteSelection(); },
                [](DemoDocument* doc) { return doc->hasSelection() && !doc->isReadOnly(); });
     onDocument(EditSelectAll, [](DemoDocument* doc) { doc->selectAll(); },
@@ -889,12 +899,18 @@ QList<QAction*> DemoCommands::contextActions() const
 DemoDocument* DemoCommands::newDocument()
 {
     auto* doc = new DemoDocument;
-    doc->setZoom(m_window->settings().value(DemoSettings::zoomKey, 100).toInt());
-    doc->setWordWrap(m_window->settings().value(DemoSettings::wordWrapKey, true).toBool());
-    doc->setRulerVisible(m_window->settings().value(DemoSettings::rulerKey, false).toBool());
-    doc->setContextActions(contextActions());
+    prepare(doc);
     m_window->addDocument(doc);
     return doc;
+}
+
+void DemoCommands::prepare(DemoDocument* doc) const
+{
+    // New documents start with the view the user chose last.
+    doc->setZoom(m_window->settings().value(DemoSettings::zoomKey, 100).toInt());
+    doc->setWordWrap(m_window->settings().value(DemoSettings::wordWrapKey, true).toBool());
+    doc->setRulerVisible(m_window->settings().value(DemoSettings::rulerKey, true).toBool());
+    doc->setContextActions(contextActions());
 }
 
 DemoDocument* DemoCommands::openFile(const QString& path)
@@ -913,10 +929,7 @@ DemoDocument* DemoCommands::openFile(const QString& path)
         m_window->showMessage(tr("Cannot open %1: %2").arg(QDir::toNativeSeparators(absolute), error));
         return nullptr;
     }
-    doc->setZoom(m_window->settings().value(DemoSettings::zoomKey, 100).toInt());
-    doc->setWordWrap(m_window->settings().value(DemoSettings::wordWrapKey, true).toBool());
-    doc->setRulerVisible(m_window->settings().value(DemoSettings::rulerKey, false).toBool());
-    doc->setContextActions(contextActions());
+    prepare(doc);
     m_window->addDocument(doc);
     QStringList files = m_recentFiles;
     files.removeAll(absolute);

@@ -183,6 +183,7 @@ private:
     QMenu* newMenu(const QString& title, QMenu* parent = nullptr);
     void addToMenu(QMenu* menu, const QList<int>& ids);
 
+    void prepare(DemoDocument* document) const;
     void setRecentFiles(const QStringList& files);
     QString askSavePath(DemoDocument* document, const QString& filter, const QString& suffix);
     void findNext(bool backward);
@@ -196,4 +197,5 @@ private:
     QList<QAction*> m_recentActions;
     QStringList m_recentFiles;
     QTimer* m_autoSaveTimer;
+    bool m_clipboardHasText = false;
 };

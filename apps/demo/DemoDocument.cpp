@@ -204,14 +204,6 @@ bool DemoDocument::hasSelection() const
     return textCursor().hasSelection();
 }
 
-bool DemoDocument::canPasteText() const
-{
-    if (isReadOnly())
-        return false;
-    const QMimeData* data = QApplication::clipboard()->mimeData();
-    return data && (data->hasText() || data->hasHtml());
-}
-
 void DemoDocument::cutText()
 {
     if (!hasSelection() || isReadOnly())

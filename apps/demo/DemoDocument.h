@@ -51,7 +51,6 @@ public:
     void edit(const QString& label, const std::function<void(QTextCursor&)>& change);
 
     bool hasSelection() const;
-    bool canPasteText() const;
     void cutText();
     void pasteText(bool plain);
     void deleteSelection();

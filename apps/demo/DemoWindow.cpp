@@ -19,6 +19,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTextCursor>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -108,6 +109,10 @@ void DemoWindow::createToolBars()
 
 void DemoWindow::createStatusBar()
 {
+    m_statusTimer = new QTimer(this);
+    m_statusTimer->setSingleShot(true);
+    m_statusTimer->setInterval(250);
+    connect(m_statusTimer, &QTimer::timeout, this, &DemoWindow::updateStatus);
     m_positionLabel = new QLabel(this);
     m_wordsLabel = new QLabel(this);
     m_zoomLabel = new QLabel(this);
@@ -207,12 +212,15 @@ void DemoWindow::removeDocument(DemoDocument* document)
 
 void DemoWindow::onCurrentTabChanged()
 {
-    if (m_connectedDocument)
+    if (m_connectedDocument) {
         disconnect(m_connectedDocument, nullptr, this, nullptr);
+        disconnect(m_connectedDocument, nullptr, m_statusTimer, nullptr);
+    }
     m_connectedDocument = activeDocument();
     if (DemoDocument* doc = m_connectedDocument) {
         connect(doc, &QTextEdit::cursorPositionChanged, this, &DemoWindow::updateStatus);
-        connect(doc, &QTextEdit::textChanged, this, &DemoWindow::updateStatus);
+        // Counting words walks the whole text: wait for a pause in typing.
+        connect(doc, &QTextEdit::textChanged, m_statusTimer, qOverload<>(&QTimer::start));
         connect(doc, &DemoDocument::zoomChanged, this, &DemoWindow::updateStatus);
     }
     updateTitle();

@@ -10,6 +10,7 @@ class DemoFindBar;
 class DemoSettings;
 class QLabel;
 class QTabWidget;
+class QTimer;
 class QToolBar;
 
 /// The demo's main window: the menu bar built from the command categories,
@@ -79,5 +80,6 @@ private:
     QLabel* m_positionLabel = nullptr;
     QLabel* m_wordsLabel = nullptr;
     QLabel* m_zoomLabel = nullptr;
+    QTimer* m_statusTimer = nullptr;
     DemoDocument* m_connectedDocument = nullptr;
 };
