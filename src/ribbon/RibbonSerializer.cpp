@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QHash>
 #include <QIcon>
 #include <QImage>
 #include <QMenu>
@@ -185,6 +186,25 @@ struct RibbonSerializer::ReadContext
         --budget;
         return true;
     }
+
+    // The host action itself, or null once it has been placed too often.
+    QAction* place(QAction* action)
+    {
+        if (!action)
+            return nullptr;
+        int& count = placements[action];
+        if (count >= RibbonSerializer::maxActionPlacements)
+            return nullptr;
+        ++count;
+        return action;
+    }
+
+    QHash<QAction*, int> placements;
+};
+
+struct RibbonSerializer::SaveContext
+{
+    int budget = RibbonSerializer::maxSavedMenuEntries;
 };
 
 RibbonSerializer::RibbonSerializer(RibbonBar* ribbon)
@@ -222,6 +242,7 @@ bool RibbonSerializer::save(QIODevice& device)
     if (!m_ribbon || !device.isWritable())
         return false;
     QDataStream stream(&device);
+    SaveContext context;
     stream << qint32(internalVersion);
     const int pageCount = m_ribbon->pageCount();
     stream << qint32(pageCount);
@@ -240,7 +261,7 @@ bool RibbonSerializer::save(QIODevice& device)
             for (QAction* action : actions) {
                 stream << qint32(actionButtonStyle(group, action));
                 stream << qint8(getGroupButtonType(group, action));
-                saveActionImpl(stream, action);
+                saveActionImpl(stream, action, context, 0);
             }
         }
     }
@@ -261,6 +282,7 @@ bool RibbonSerializer::saveQuickBar(QIODevice& device)
         return false;
     Qtitan::RibbonQuickAccessBar* bar = m_ribbon->quickAccessBar();
     QDataStream stream(&device);
+    SaveContext context;
     stream << qint32(internalVersion);
     stream << qint32(bar ? bar->visibleCount() : 0);
     const QList<QAction*> actions = bar ? bar->actions() : QList<QAction*>();
@@ -269,7 +291,7 @@ bool RibbonSerializer::saveQuickBar(QIODevice& device)
             continue;
         stream << qint32(actionButtonStyle(bar, action));
         stream << qint8(getGroupButtonType(bar, action));
-        saveActionImpl(stream, action);
+        saveActionImpl(stream, action, context, 0);
     }
     return true;
 }
@@ -284,10 +306,11 @@ QByteArray RibbonSerializer::saveQuickBar()
 
 void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action)
 {
-    saveActionImpl(stream, action, 0);
+    SaveContext context;
+    saveActionImpl(stream, action, context, 0);
 }
 
-void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action, int depth)
+void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action, SaveContext& context, int depth)
 {
     const bool separator = action->isSeparator();
     stream << separator;
@@ -299,12 +322,17 @@ void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action, int 
         stream << action->text();
     QList<QAction*> subActions;
     // Menus filled at run time are not stored; nor are menus nested past what
-    // the reader builds (a menu that holds its own action would never end).
-    if (action->menu() && !action->property(dynamicMenuProperty).toBool() && depth < maxMenuDepth)
+    // the reader builds (a menu that holds its own action would never end),
+    // nor menus past the entry budget.
+    if (action->menu() && !action->property(dynamicMenuProperty).toBool() && depth < maxMenuDepth) {
         subActions = action->menu()->actions();
+        if (subActions.size() > context.budget)
+            subActions.clear();
+        context.budget -= subActions.size();
+    }
     stream << qint32(subActions.size());
     for (QAction* subAction : qAsConst(subActions))
-        saveActionImpl(stream, subAction, depth + 1);
+        saveActionImpl(stream, subAction, context, depth + 1);
 }
 
 bool RibbonSerializer::restore(const QByteArray& data)
@@ -453,8 +481,10 @@ QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, 
     stream >> id;
     QAction* action = nullptr;
     if (!id.isEmpty()) {
-        action = getAction(id);
-        if (!qobject_cast<QWidgetAction*>(action)) {
+        QAction* hostAction = getAction(id);
+        const bool widgetAction = qobject_cast<QWidgetAction*>(hostAction);
+        action = context.place(hostAction);
+        if (!widgetAction) {
             QString ignoredText;
             stream >> ignoredText;
             if (version >= 1 && version <= 4) {

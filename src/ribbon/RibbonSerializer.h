@@ -40,6 +40,15 @@ public:
     /// The most pages, groups, actions and menus one restore creates; a
     /// stream that asks for more is read as if it ended there.
     static const int maxRestoredItems = 65536;
+    /// The most places one restore puts a single host action in (groups,
+    /// menus, the quick access bar); further records of it are read as if
+    /// its identifier were unknown. Every place is notified of each change of
+    /// the action, so unbounded repeats would make restoring quadratic.
+    static const int maxActionPlacements = 32;
+    /// The most drop-down menu entries one save writes (menus that share
+    /// their actions could otherwise unfold without end); further menus are
+    /// written empty.
+    static const int maxSavedMenuEntries = 16384;
 
     /// A serializer of @p ribbon (not owned).
     explicit RibbonSerializer(RibbonBar* ribbon);
@@ -75,7 +84,8 @@ protected:
 
 private:
     void saveActionImpl(QDataStream& stream, QAction* action);
-    void saveActionImpl(QDataStream& stream, QAction* action, int depth);
+    struct SaveContext;
+    void saveActionImpl(QDataStream& stream, QAction* action, SaveContext& context, int depth);
     QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version);
     struct ReadContext;
     QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version, ReadContext& context, int depth);

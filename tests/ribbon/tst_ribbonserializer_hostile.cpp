@@ -134,6 +134,9 @@ private Q_SLOTS:
     void unknownIconEngine();
     void iconFileNames();
     void damagedStyleValues();
+    void sharedMenusSaveBounded();
+    void restoredSharedMenusSaveBounded();
+    void repeatedHostAction();
     void randomBytes();
     void bitFlips();
 };
@@ -507,6 +510,107 @@ void tst_RibbonSerializerHostile::damagedStyleValues()
     // Any non-zero type other than 1 behaves like 2.
     QCOMPARE(int(ui::getGroupButtonType(group, actions[0])), -128);
     QCOMPARE(int(ui::getGroupButtonType(group, actions[1])), 127);
+}
+
+void tst_RibbonSerializerHostile::sharedMenusSaveBounded()
+{
+    // Menus that share their actions unfold into 2^40 entries if followed blindly.
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    QObject host;
+    QList<QAction*> level{new QAction(QStringLiteral("a"), &host), new QAction(QStringLiteral("b"), &host)};
+    QList<QAction*> top = level;
+    for (int i = 0; i < 40; ++i) {
+        QList<QAction*> next{new QAction(QStringLiteral("a"), &host), new QAction(QStringLiteral("b"), &host)};
+        auto* menu = new QMenu;
+        connect(&host, &QObject::destroyed, menu, &QObject::deleteLater);
+        menu->addActions(next);
+        for (QAction* action : qAsConst(level))
+            action->setMenu(menu);
+        level = next;
+    }
+    Qtitan::RibbonGroup* group = ribbon.addPage(QStringLiteral("П"))->addGroup(QStringLiteral("Г"));
+    group->addActions(top);
+    ribbon.addQuickAction(top[0]);
+    ui::RibbonSerializer serializer(&ribbon);
+    QElapsedTimer timer;
+    timer.start();
+    const QByteArray layout = serializer.save();
+    const QByteArray quick = serializer.saveQuickBar();
+    QVERIFY(timer.elapsed() < 20000);
+    QVERIFY(!layout.isEmpty());
+    QVERIFY(!quick.isEmpty());
+    // What was written reads back.
+    ui::RibbonBar other(QStringLiteral("ctx"));
+    ui::RibbonSerializer reader(&other);
+    QVERIFY(reader.restore(layout));
+    QCOMPARE(other.page(0)->groupAt(0)->actions().size(), 2);
+    QCOMPARE(menuDepth(other.page(0)->groupAt(0)->actions()[0]), 40);
+}
+
+void tst_RibbonSerializerHostile::restoredSharedMenusSaveBounded()
+{
+    // A stream that gives host actions menus holding each other.
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    QObject host;
+    IdSerializer serializer(&ribbon);
+    QStringList ids;
+    for (int i = 0; i < 8; ++i) {
+        auto* action = new QAction(QStringLiteral("h%1").arg(i), &host);
+        action->setObjectName(QStringLiteral("h%1").arg(i));
+        serializer.addHostAction(action);
+        ids << QStringLiteral("cmd.h%1").arg(i);
+    }
+    Writer w;
+    w << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(1);
+    w << QStringLiteral("Г") << false << false << qint32(ids.size());
+    for (const QString& id : qAsConst(ids)) {
+        QList<Record> all;
+        for (const QString& sub : qAsConst(ids))
+            all << Record::ided(sub, QString());
+        w.entry(0, 0, Record::ided(id, QString(), all));
+    }
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QElapsedTimer timer;
+    timer.start();
+    const QByteArray saved = serializer.save();
+    QVERIFY(timer.elapsed() < 20000);
+    QVERIFY(qUncompress(saved).size() < 64 * 1024 * 1024);
+    timer.restart();
+    QVERIFY(serializer.restore(saved));
+    QVERIFY(timer.elapsed() < 20000);
+    // The unfolded menus repeat the host actions past their placement bound,
+    // so only the first entry keeps its place.
+    QVERIFY(!ribbon.page(0)->groupAt(0)->actions().isEmpty());
+}
+
+void tst_RibbonSerializerHostile::repeatedHostAction()
+{
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    QObject host;
+    auto* action = new QAction(QStringLiteral("Команда"), &host);
+    action->setObjectName(QStringLiteral("cmd"));
+    IdSerializer serializer(&ribbon);
+    serializer.addHostAction(action);
+    const int repeats = 5000;
+    Writer w;
+    w << qint32(5) << qint32(1) << QStringLiteral("П") << qint32(repeats);
+    for (int i = 0; i < repeats; ++i) {
+        w << QStringLiteral("Г") << false << false << qint32(2);
+        w.entry(2, 1, Record::ided(QStringLiteral("cmd.cmd"), QString(), {Record::plain(QStringLiteral("x"))}));
+        w.entry(0, 0, Record::plain(QStringLiteral("после")));
+    }
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QVERIFY(timer.elapsed() < 60000);
+    QCOMPARE(ribbon.page(0)->groupCount(), repeats);
+    int placed = 0;
+    for (int g = 0; g < repeats; ++g) {
+        const QList<QAction*> actions = ribbon.page(0)->groupAt(g)->actions();
+        placed += actions.contains(action);
+        QCOMPARE(actions.last()->text(), QStringLiteral("после"));
+    }
+    QCOMPARE(placed, int(ui::RibbonSerializer::maxActionPlacements));
 }
 
 void tst_RibbonSerializerHostile::randomBytes()
