@@ -50,6 +50,12 @@ private slots:
     void toolbarCommandsAreChecked();
     void findNextSelectsTheMatch();
     void triggeredWhileDisabledDoesNotRun();
+    void pasteFollowsTheClipboard();
+    void shortcutsReachTheCommands();
+    void keyboardCutIsANamedStep();
+    void lineCommandsEditTheDocument();
+    void saveAndReloadRoundTrip();
+    void recentListIsCappedAndDeduplicated();
     void settingsAreWrittenOnClose();
     void nothingIsWrittenWithoutClose();
     void optionsParse();
@@ -458,6 +464,130 @@ void tst_Demo::triggeredWhileDisabledDoesNotRun()
     action(C::EditCut)->trigger();
     QCOMPARE(doc->toPlainText(), QStringLiteral("keep me"));
     QVERIFY(!action(C::EditCut)->isEnabled());
+}
+
+void tst_Demo::pasteFollowsTheClipboard()
+{
+    QApplication::clipboard()->clear();
+    wake();
+    QVERIFY(!action(C::EditPaste)->isEnabled());
+    QVERIFY(!action(C::EditPastePlain)->isEnabled());
+    QApplication::clipboard()->setText(QStringLiteral("pasted"));
+    wake();
+    QVERIFY(action(C::EditPaste)->isEnabled());
+    action(C::EditPastePlain)->trigger();
+    QCOMPARE(document()->toPlainText(), QStringLiteral("pasted"));
+    wake();
+    QCOMPARE(action(C::EditUndo)->text(), QStringLiteral("&Undo paste"));
+    document()->setReadOnly(true);
+    wake();
+    QVERIFY(!action(C::EditPaste)->isEnabled());
+}
+
+void tst_Demo::shortcutsReachTheCommands()
+{
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    DemoDocument* doc = document();
+    doc->setPlainText(QStringLiteral("short cut"));
+    doc->setFocus();
+    selectWord(doc, 1);
+    QTest::keyClick(doc, Qt::Key_B, Qt::ControlModifier);
+    QTextCursor probe(doc->document());
+    probe.setPosition(2);
+    QCOMPARE(probe.charFormat().fontWeight(), int(QFont::Bold));
+    QTest::keyClick(doc, Qt::Key_E, Qt::ControlModifier);
+    QCOMPARE(doc->paragraphAlignment(), Qt::AlignHCenter);
+    QTest::keyClick(doc, Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(m_window->documents().size(), 2);
+    QVERIFY(document() != doc);
+}
+
+void tst_Demo::keyboardCutIsANamedStep()
+{
+    DemoDocument* doc = document();
+    doc->setPlainText(QStringLiteral("alpha beta"));
+    selectWord(doc, 8);
+    QTest::keySequence(doc, QKeySequence::Cut);
+    QCOMPARE(doc->toPlainText(), QStringLiteral("alpha "));
+    wake();
+    QCOMPARE(action(C::EditUndo)->text(), QStringLiteral("&Undo cut"));
+    QTest::keySequence(doc, QKeySequence::Undo);
+    QCOMPARE(doc->toPlainText(), QStringLiteral("alpha beta"));
+    wake();
+    QCOMPARE(action(C::EditRedo)->text(), QStringLiteral("&Redo cut"));
+}
+
+void tst_Demo::lineCommandsEditTheDocument()
+{
+    DemoDocument* doc = document();
+    doc->setPlainText(QStringLiteral("pear  \napple\t\nfig"));
+    action(C::ToolsTrimSpaces)->trigger();
+    QCOMPARE(doc->toPlainText(), QStringLiteral("pear\napple\nfig"));
+    action(C::ToolsSortLines)->trigger();
+    QCOMPARE(doc->toPlainText(), QStringLiteral("apple\nfig\npear"));
+    QTextCursor cursor = doc->textCursor();
+    cursor.setPosition(7); // in "fig"
+    doc->setTextCursor(cursor);
+    action(C::EditDuplicateLine)->trigger();
+    QCOMPARE(doc->toPlainText(), QStringLiteral("apple\nfig\nfig\npear"));
+    selectWord(doc, 1);
+    action(C::EditUpperCase)->trigger();
+    QCOMPARE(doc->toPlainText(), QStringLiteral("APPLE\nfig\nfig\npear"));
+    QCOMPARE(DemoDocument::countWords(doc->toPlainText()), 4);
+    QCOMPARE(doc->replaceAll(QStringLiteral("fig"), QStringLiteral("plum")), 2);
+    QCOMPARE(doc->toPlainText(), QStringLiteral("APPLE\nplum\nplum\npear"));
+    wake();
+    QCOMPARE(action(C::EditUndo)->text(), QStringLiteral("&Undo replace all"));
+}
+
+void tst_Demo::saveAndReloadRoundTrip()
+{
+    DemoDocument* doc = document();
+    doc->setHtml(QStringLiteral("<p>some <b>bold</b> text</p>"));
+    const QString path = m_dir->filePath(QStringLiteral("round.html"));
+    QVERIFY(m_window->commands()->saveAs(doc, path));
+    QVERIFY(!doc->isModified());
+    QCOMPARE(doc->filePath(), path);
+    QCOMPARE(doc->title(), QStringLiteral("round.html"));
+    QCOMPARE(m_window->commands()->recentFiles().first(), path);
+    wake();
+    QVERIFY(!action(C::FileRevert)->isEnabled());
+
+    doc->selectAll();
+    QTest::keyClicks(doc, QStringLiteral("replaced"));
+    QVERIFY(doc->isModified());
+    wake();
+    QVERIFY(action(C::FileRevert)->isEnabled());
+    action(C::FileRevert)->trigger();
+    QCOMPARE(doc->toPlainText(), QStringLiteral("some bold text"));
+    QVERIFY(!doc->isModified());
+    QTextCursor probe(doc->document());
+    probe.setPosition(7);
+    QCOMPARE(probe.charFormat().fontWeight(), int(QFont::Bold));
+
+    const QString text = m_dir->filePath(QStringLiteral("copy.txt"));
+    QVERIFY(doc->exportTo(text, false));
+    QFile file(text);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()), QStringLiteral("some bold text"));
+    QCOMPARE(doc->filePath(), path);
+}
+
+void tst_Demo::recentListIsCappedAndDeduplicated()
+{
+    DemoSettings settings(m_dir->filePath(QStringLiteral("other.dat")));
+    for (int i = 0; i < 12; ++i)
+        settings.addRecentFile(m_dir->filePath(QStringLiteral("f%1.txt").arg(i)));
+    QStringList files = settings.recentFiles();
+    QCOMPARE(files.size(), DemoSettings::maxRecentFiles);
+    QCOMPARE(files.first(), m_dir->filePath(QStringLiteral("f11.txt")));
+    settings.addRecentFile(m_dir->filePath(QStringLiteral("f5.txt")));
+    files = settings.recentFiles();
+    QCOMPARE(files.size(), DemoSettings::maxRecentFiles);
+    QCOMPARE(files.first(), m_dir->filePath(QStringLiteral("f5.txt")));
+    QCOMPARE(files.count(m_dir->filePath(QStringLiteral("f5.txt"))), 1);
 }
 
 void tst_Demo::settingsAreWrittenOnClose()
