@@ -130,8 +130,17 @@ private Q_SLOTS:
         QCOMPARE(f.bar.page(5), other);
         f.bar.addPage(static_cast<RibbonPage*>(nullptr));
         QCOMPARE(f.bar.pageCount(), 6);
-        QPointer<RibbonPage> guard(other);
-        // Deleted with the bar (the fixture).
+    }
+
+    void pagesGoWithTheBar()
+    {
+        QPointer<RibbonPage> page;
+        {
+            RibbonBar bar;
+            page = new RibbonPage;
+            bar.addPage(page);
+        }
+        QVERIFY(page.isNull());
     }
 
     void pageConstructedForABar()
