@@ -3,6 +3,7 @@
 #include "DemoDocument.h"
 #include "DemoFindBar.h"
 #include "DemoSettings.h"
+#include "DemoShortcutsDialog.h"
 #include "DemoWindow.h"
 
 #include "CommandsRegistry.h"
@@ -52,6 +53,7 @@ DemoCommands::DemoCommands(DemoWindow* window)
     registerTools();
     registerHelp();
     buildMenus();
+    DemoShortcuts::restore(m_window->settings(), m_rootMenu);
 
     setAutoSave(m_window->settings().value(DemoSettings::autoSaveKey, false).toBool());
 }
@@ -722,6 +724,7 @@ void DemoCommands::registerTools()
     }, editable);
     m_registry->ConnectCommand(ToolsAutoSave, [this] { setAutoSave(!autoSave()); });
     m_registry->ConnectCommandUI(ToolsAutoSave, [this](ui::CommandState& state) { state.setChecked(autoSave()); });
+    DemoShortcuts::registerCommand(m_registry, m_window, ToolsKeyboardShortcuts);
 }
 
 bool DemoCommands::autoSave() const
@@ -880,7 +883,8 @@ void DemoCommands::buildMenus()
                           FormatOutdent});
     addToMenu(format, {0, FormatClear});
 
-    addToMenu(m_categoryMenus[Tools], {ToolsWordCount, 0, ToolsSortLines, ToolsTrimSpaces, 0, ToolsAutoSave});
+    addToMenu(m_categoryMenus[Tools], {ToolsWordCount, 0, ToolsSortLines, ToolsTrimSpaces, 0, ToolsAutoSave, 0,
+                                        ToolsKeyboardShortcuts});
     addToMenu(m_categoryMenus[Help], {HelpContents, 0, HelpAbout, HelpAboutQt});
 }
 

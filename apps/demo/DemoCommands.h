@@ -118,6 +118,7 @@ public:
         ToolsSortLines,
         ToolsTrimSpaces,
         ToolsAutoSave,
+        ToolsKeyboardShortcuts,
 
         HelpContents = 701,
         HelpAbout,

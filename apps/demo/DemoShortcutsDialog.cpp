@@ -1,5 +1,10 @@
 #include "DemoShortcutsDialog.h"
 
+#include "DemoCommands.h"
+#include "DemoSettings.h"
+#include "DemoWindow.h"
+
+#include <CommandsRegistry.h>
 #include <MenuTreeWidget.h>
 
 #include <QAction>
@@ -7,6 +12,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QSet>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -38,6 +44,31 @@ void walk(QMenu* menu, QSet<QMenu*>& seen, const std::function<void(QAction*)>& 
         else
             visit(action);
     }
+}
+
+// A small keyboard: a rounded body with three rows of keys.
+QIcon keyboardIcon()
+{
+    QIcon icon;
+    for (int size : {16, 32}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter p(&pixmap);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.scale(size / 16.0, size / 16.0);
+        p.setPen(QPen(QColor(0x44, 0x55, 0x66), 1));
+        p.setBrush(QColor(0xf4, 0xf6, 0xf8));
+        p.drawRoundedRect(QRectF(0.5, 3.5, 15, 9), 1.5, 1.5);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(0x44, 0x55, 0x66));
+        for (int row = 0; row < 2; ++row) {
+            for (int col = 0; col < 6; ++col)
+                p.drawRect(QRectF(2 + col * 2 + row, 5 + row * 2, 1.2, 1.2));
+        }
+        p.drawRect(QRectF(4, 9.5, 8, 1.3));
+        icon.addPixmap(pixmap);
+    }
+    return icon;
 }
 
 } // namespace
@@ -109,6 +140,41 @@ QList<QAction*> DemoShortcutsDialog::applyShortcuts(const Table& table)
     }
     return changed;
 }
+
+namespace DemoShortcuts {
+
+QAction* registerCommand(ui::CommandsRegistry* registry, DemoWindow* window, int id)
+{
+    QAction* action = registry->addCommand(keyboardIcon(), DemoShortcutsDialog::tr("&Keyboard Shortcuts…"), id);
+    action->setStatusTip(DemoShortcutsDialog::tr("Change the key combinations of the commands"));
+    registry->ConnectCommand(id, [window] {
+        open(window->commands()->rootMenu(), window->settings(), window);
+    });
+    return action;
+}
+
+DemoShortcutsDialog* open(QMenu* commands, DemoSettings& settings, QWidget* parent)
+{
+    auto* dialog = new DemoShortcutsDialog(commands, parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::ApplicationModal);
+    QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &settings] {
+        const QList<QAction*> changed = dialog->apply();
+        if (changed.isEmpty())
+            return;
+        const QString key = DemoShortcutSettings::settingsKey;
+        settings.setValue(key, DemoShortcutSettings::merge(settings.value(key).toMap(), changed));
+    });
+    dialog->show();
+    return dialog;
+}
+
+int restore(const DemoSettings& settings, QMenu* commands)
+{
+    return DemoShortcutSettings::restore(settings.value(DemoShortcutSettings::settingsKey).toMap(), commands);
+}
+
+} // namespace DemoShortcuts
 
 namespace DemoShortcutSettings {
 

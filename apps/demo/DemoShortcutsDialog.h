@@ -5,9 +5,15 @@
 #include <QDialog>
 #include <QVariantMap>
 
+class DemoSettings;
+class DemoWindow;
 class MenuTreeWidget;
 class QAction;
 class QMenu;
+
+namespace ui {
+class CommandsRegistry;
+}
 
 /// The "Keyboard Shortcuts" window: every command of the host's command menu
 /// in a tree, beside a hot keys page fed with the commands' shortcuts. Nothing
@@ -61,3 +67,19 @@ QVariantMap merge(QVariantMap saved, const QList<QAction*>& changed);
 int restore(const QVariantMap& saved, QMenu* menu);
 
 } // namespace DemoShortcutSettings
+
+/// The demo's glue: the Tools command that opens the window, and the saved
+/// shortcuts applied on start.
+namespace DemoShortcuts {
+
+/// Registers "Keyboard Shortcuts…" under \a id; running it opens the window
+/// over the window's command menu.
+QAction* registerCommand(ui::CommandsRegistry* registry, DemoWindow* window, int id);
+/// Opens the window (application modal, deleted when closed) over \a commands.
+/// On OK the edits go to the actions and into \a settings.
+DemoShortcutsDialog* open(QMenu* commands, DemoSettings& settings, QWidget* parent);
+/// Gives the commands under \a commands the shortcuts kept in \a settings;
+/// returns how many changed.
+int restore(const DemoSettings& settings, QMenu* commands);
+
+} // namespace DemoShortcuts

@@ -1,4 +1,9 @@
+#include "DemoCommands.h"
+#include "DemoSettings.h"
 #include "DemoShortcutsDialog.h"
+#include "DemoWindow.h"
+
+#include <CommandsRegistry.h>
 
 #include <KeyValueStorage.h>
 #include <MenuTreeWidget.h>
@@ -10,6 +15,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolButton>
 
@@ -75,6 +81,7 @@ private slots:
     void cancelLeavesActions();
     void commandKeys();
     void settingsRoundTrip();
+    void demoToolsCommandEditsAndKeeps();
 };
 
 void TestDemoShortcuts::collectDepthFirstEachOnce()
@@ -180,6 +187,45 @@ void TestDemoShortcuts::settingsRoundTrip()
     QCOMPARE(c.bold->shortcuts(), QList<QKeySequence>{QKeySequence(QStringLiteral("Ctrl+B"))});
     // Restoring again changes nothing.
     QCOMPARE(DemoShortcutSettings::restore(saved, &c.root), 0);
+}
+
+void TestDemoShortcuts::demoToolsCommandEditsAndKeeps()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString settingsFile = dir.filePath(QStringLiteral("settings.dat"));
+    const QKeySequence chosen(Qt::CTRL | Qt::ALT | Qt::Key_W);
+    {
+        DemoWindow window(settingsFile);
+        QAction* command = window.commands()->action(DemoCommands::ToolsKeyboardShortcuts);
+        QVERIFY(command);
+        QVERIFY(window.commands()->categoryMenu(DemoCommands::Tools)->actions().contains(command));
+        QAction* wordCount = window.commands()->action(DemoCommands::ToolsWordCount);
+        QVERIFY(!wordCount->shortcuts().contains(chosen));
+
+        window.commands()->registry()->RunCommand(DemoCommands::ToolsKeyboardShortcuts);
+        auto* dialog = window.findChild<DemoShortcutsDialog*>();
+        QVERIFY(dialog);
+        QVERIFY(dialog->isVisible());
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        MenuTreeWidget* tree = dialog->tree();
+        const QModelIndex index = findIndex(tree->model(), wordCount);
+        QVERIFY(index.isValid());
+        tree->scrollTo(index);
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, tree->visualRect(index).center());
+        QCOMPARE(dialog->page()->action(), wordCount);
+        auto* edit = dialog->page()->findChild<QtKeySequenceEdit*>();
+        QTest::keyClick(edit, Qt::Key_W, Qt::ControlModifier | Qt::AltModifier);
+        QTest::mouseClick(dialog->page()->findChild<QToolButton*>(QStringLiteral("addButton")), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
+        QVERIFY(wordCount->shortcuts().contains(chosen));
+        QVERIFY(window.settings().value(DemoShortcutSettings::settingsKey).toMap().contains(
+            DemoShortcutSettings::commandKey(wordCount)));
+    }
+    // The next start gets the edited shortcut back.
+    DemoWindow window(settingsFile);
+    QAction* wordCount = window.commands()->action(DemoCommands::ToolsWordCount);
+    QVERIFY(wordCount->shortcuts().contains(chosen));
 }
 
 QTEST_MAIN(TestDemoShortcuts)
