@@ -119,7 +119,6 @@ void RibbonButtonControl::adjustCurrentSize(RibbonControlSizeDefinition::GroupSi
     RibbonControl::adjustCurrentSize(size);
     const Look look = lookAt(this, size);
     d->button->setLook(look.image, look.label);
-    d->button->resize(d->button->sizeHint());
 }
 
 void RibbonButtonControl::actionChanged()

@@ -183,7 +183,7 @@ RibbonControl* RibbonGroup::Private::createControl(QAction* action)
         }
     });
     control->setDefaultAction(action);
-    if (current == RibbonControlSizeDefinition::GroupPopup && popup)
+    if (popup && popup->isVisible())
         control->setParent(popup);
     return control;
 }
@@ -308,14 +308,44 @@ void RibbonGroup::Private::ensureCollapsedWidgets()
             button->setDown(false);
             button->setPopupOpen(false);
         }
+        // Back into the group, hidden while it stays collapsed.
+        for (const Entry& entry : qAsConst(entries)) {
+            if (entry.control->parentWidget() != q)
+                entry.control->setParent(q);
+        }
     });
+}
+
+void RibbonGroup::Private::fillPopup()
+{
+    // Controls move into the popup only while it is open: re-parenting into
+    // another window walks that window's focus chain, too costly for layouts.
+    const RibbonMetrics m = RibbonMetrics::forWidget(q);
+    const RibbonControlSizeDefinition::GroupSize size = RibbonControlSizeDefinition::GroupPopup;
+    const Layout& layout = layoutFor(size);
+    const int w = qMax(layout.contentWidth, titleWidth()) + 2 * detail::GroupPadding;
+    popup->resize(w, m.groupHeight);
+    const QPoint origin((w - layout.contentWidth) / 2, detail::GroupTopMargin);
+    for (int i = 0; i < entries.size(); ++i) {
+        RibbonControl* control = entries.at(i).control;
+        if (control->parentWidget() != popup)
+            control->setParent(popup);
+        control->adjustCurrentSize(size);
+        const QRect r = layout.rects.value(i);
+        if (r.isNull()) {
+            control->hide();
+        } else {
+            control->setGeometry(r.translated(origin));
+            control->show();
+        }
+    }
 }
 
 void RibbonGroup::Private::showPopup()
 {
     if (!popup || current != RibbonControlSizeDefinition::GroupPopup)
         return;
-    place();
+    fillPopup();
     button->setPopupOpen(true);
     QPoint pos = button->mapToGlobal(QPoint(0, button->height()));
     const QSize size = popup->size();
@@ -338,30 +368,31 @@ RibbonPage* RibbonGroup::Private::page() const
 void RibbonGroup::Private::place()
 {
     placed = true;
-    const bool collapsed = current == RibbonControlSizeDefinition::GroupPopup;
-    const RibbonMetrics m = RibbonMetrics::forWidget(q);
-    QWidget* container = q;
-    QPoint origin;
-    const Layout& layout = layoutFor(current);
-    if (collapsed) {
+    if (current == RibbonControlSizeDefinition::GroupPopup) {
         ensureCollapsedWidgets();
         button->setGeometry(q->rect());
         button->show();
-        const int w = qMax(layout.contentWidth, titleWidth()) + 2 * detail::GroupPadding;
-        popup->resize(w, m.groupHeight);
-        origin = QPoint((w - layout.contentWidth) / 2, detail::GroupTopMargin);
-        container = popup;
-    } else {
-        if (button)
-            button->hide();
-        if (popup && popup->isVisible())
-            popup->close();
-        origin = QPoint((q->width() - layout.contentWidth) / 2, detail::GroupTopMargin);
+        if (popup->isVisible()) {
+            fillPopup();
+        } else {
+            for (const Entry& entry : qAsConst(entries)) {
+                entry.control->adjustCurrentSize(current);
+                entry.control->hide();
+            }
+        }
+        q->update();
+        return;
     }
+    if (button)
+        button->hide();
+    if (popup && popup->isVisible())
+        popup->close();
+    const Layout& layout = layoutFor(current);
+    const QPoint origin((q->width() - layout.contentWidth) / 2, detail::GroupTopMargin);
     for (int i = 0; i < entries.size(); ++i) {
         RibbonControl* control = entries.at(i).control;
-        if (control->parentWidget() != container)
-            control->setParent(container);
+        if (control->parentWidget() != q)
+            control->setParent(q);
         control->adjustCurrentSize(current);
         const QRect r = layout.rects.value(i);
         if (r.isNull()) {
@@ -533,10 +564,13 @@ bool RibbonGroup::event(QEvent* event)
     switch (event->type()) {
     case QEvent::LayoutRequest:
         d->requestPosted = false;
-        if (RibbonPage* page = d->page())
-            page->updateLayout();
-        else
+        if (RibbonPage* page = d->page()) {
+            // The page lays out its groups (at once only while it is shown).
+            QEvent request(QEvent::LayoutRequest);
+            QCoreApplication::sendEvent(page, &request);
+        } else {
             d->place();
+        }
         return true;
     case QEvent::FontChange:
     case QEvent::StyleChange:

@@ -104,6 +104,8 @@ public:
     /// Moves the controls into place for the current size.
     void place();
     void ensureCollapsedWidgets();
+    /// Moves the controls into the popup and lays them out there.
+    void fillPopup();
     void showPopup();
     RibbonPage* page() const;
 };

@@ -65,6 +65,7 @@ public:
     QList<RibbonGroup*> groups;
     QVector<int> separators; ///< x of the line between two groups
     bool requestPosted = false;
+    bool layoutPending = false;
     int scrollOffset = 0; ///< how far the row of groups is scrolled left
     QToolButton* scrollLeft = nullptr;
     QToolButton* scrollRight = nullptr;
@@ -231,6 +232,7 @@ QList<RibbonGroup*> RibbonPage::groups() const
 void RibbonPage::updateLayout()
 {
     d->requestPosted = false;
+    d->layoutPending = false;
     const int n = d->groups.size();
     const RibbonMetrics m = RibbonMetrics::forWidget(this);
     QVector<std::array<int, 4>> widths(n);
@@ -305,8 +307,16 @@ bool RibbonPage::event(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::LayoutRequest:
-        updateLayout();
+        // A hidden page (not the current tab) lays out when it is shown.
+        if (isVisible())
+            updateLayout();
+        else
+            d->layoutPending = true;
         return true;
+    case QEvent::Show:
+        if (d->layoutPending)
+            updateLayout();
+        break;
     case QEvent::ChildRemoved: {
         // A group deleted or re-parented by someone else leaves the page.
         QObject* child = static_cast<QChildEvent*>(event)->child();

@@ -60,8 +60,9 @@ private:
                 RibbonControl* control = group->controlByIndex(i);
                 QCOMPARE(control->currentSize(), group->currentSize());
                 if (group->currentSize() == Size::GroupPopup) {
-                    // Collapsed: the controls wait in the popup, not in the group.
-                    QVERIFY(control->window() != page.window());
+                    // Collapsed: the controls wait, hidden, for the popup to open.
+                    QVERIFY(!control->isVisible());
+                    QCOMPARE(control->parentGroup(), group);
                     continue;
                 }
                 QVERIFY2(control->isVisible(), qPrintable(group->title()));
@@ -293,6 +294,13 @@ private slots:
         QTest::mouseClick(buttonControl->widget(), Qt::LeftButton);
         QCOMPARE(triggered.count(), 1);
         QVERIFY(!popup->isVisible());
+        QVERIFY(!control->isVisible());
+        QCOMPARE(control->parentWidget(), group);
+        // Escape closes it as well.
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY(popup->isVisible());
+        QTest::keyClick(popup, Qt::Key_Escape);
+        QVERIFY(!popup->isVisible());
 
         // Widening brings the controls back into the group.
         page.resize(2000, page.height());
@@ -348,7 +356,21 @@ private slots:
         group->insertAction(group->actions().first(), added);
         page.updateLayout();
         QCOMPARE(group->controlByIndex(0)->defaultAction(), added);
-        QVERIFY(group->controlByIndex(0)->window() != page.window());
+        QVERIFY(!group->controlByIndex(0)->isVisible());
+        // Opened, the popup shows the new control first.
+        QTest::mouseClick(group->findChild<QAbstractButton*>(QStringLiteral("qtitan_ribbongroup_button")),
+                          Qt::LeftButton);
+        QWidget* popup = group->findChild<QWidget*>(QStringLiteral("qtitan_ribbongroup_popup"));
+        QVERIFY(popup->isVisible());
+        QCOMPARE(group->controlByIndex(0)->window(), popup);
+        QVERIFY(group->controlByIndex(0)->isVisible());
+        // Adding while the popup is open puts the control into the popup too.
+        QAction* later = sample::action(group, QStringLiteral("Later"), Qt::green);
+        group->addAction(later);
+        QTRY_VERIFY(group->controlByAction(later)->isVisible());
+        QCOMPARE(group->controlByAction(later)->window(), popup);
+        popup->close();
+        QVERIFY(!group->controlByAction(later)->isVisible());
         page.resize(2000, page.height());
         QCOMPARE(group->controlByIndex(0)->window(), page.window());
         checkInvariants(page);
