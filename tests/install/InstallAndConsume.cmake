@@ -1,0 +1,13 @@
+function(run)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${ARGN} failed (${result}):\n${output}")
+    endif()
+endfunction()
+
+file(REMOVE_RECURSE ${PREFIX} ${CONSUMER_DIR})
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${PREFIX})
+run(${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${CONSUMER_DIR} -DCMAKE_PREFIX_PATH=${PREFIX} -DCMAKE_BUILD_TYPE=${CONFIG})
+run(${CMAKE_COMMAND} --build ${CONSUMER_DIR})
+set(ENV{LD_LIBRARY_PATH} "${PREFIX}/lib:${PREFIX}/lib64:$ENV{LD_LIBRARY_PATH}")
+run(${CONSUMER_DIR}/consumer)
