@@ -300,6 +300,8 @@ void RibbonGroup::Private::ensureCollapsedWidgets()
     if (button)
         return;
     button = new detail::RibbonGroupButton(q);
+    button->setText(detail::labelText(title));
+    button->setToolTip(detail::labelText(title));
     button->hide();
     popup = new detail::RibbonGroupPopup(q);
     QObject::connect(button, &QAbstractButton::pressed, q, [this]() { showPopup(); });
@@ -446,6 +448,10 @@ void RibbonGroup::setTitle(const QString& title)
     if (d->title == title)
         return;
     d->title = title;
+    if (d->button) {
+        d->button->setText(detail::labelText(title));
+        d->button->setToolTip(detail::labelText(title));
+    }
     d->invalidate();
     update();
     emit titleChanged(title);

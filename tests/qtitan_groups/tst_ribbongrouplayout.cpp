@@ -417,6 +417,52 @@ private slots:
         checkInvariants(page);
     }
 
+    void statesLookDifferent()
+    {
+        auto* style = new Office2016Style(Office2016Style::Colorful);
+        QApplication::setStyle(style);
+        const RibbonColors colors = RibbonColors::forWidget(nullptr);
+        RibbonPage page;
+        RibbonGroup* group = page.addGroup(QStringLiteral("States"));
+        QAction* plain = sample::action(group, QStringLiteral("Plain"), Qt::blue);
+        QAction* checked = sample::action(group, QStringLiteral("Checked"), Qt::blue);
+        checked->setCheckable(true);
+        checked->setChecked(true);
+        QAction* disabled = sample::action(group, QStringLiteral("Disabled"), Qt::blue);
+        disabled->setEnabled(false);
+        for (QAction* a : {plain, checked, disabled})
+            group->addAction(a, Qt::ToolButtonTextBesideIcon);
+        page.resize(600, page.sizeHint().height());
+        page.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        page.updateLayout();
+        auto buttonOf = [&](QAction* a) { return qobject_cast<RibbonButtonControl*>(group->controlByAction(a))->widget(); };
+        auto countColor = [](const QImage& image, const QColor& color) {
+            int n = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    n += QColor(image.pixel(x, y)).name() == color.name() ? 1 : 0;
+            return n;
+        };
+        const QImage plainImage = buttonOf(plain)->grab().toImage();
+        const QImage checkedImage = buttonOf(checked)->grab().toImage();
+        const QImage disabledImage = buttonOf(disabled)->grab().toImage();
+        // A checked button has its checked background; a plain one does not.
+        QVERIFY(countColor(checkedImage, colors.buttonCheckedBackground) > checkedImage.width() * 4);
+        QCOMPARE(countColor(plainImage, colors.buttonCheckedBackground), 0);
+        // Disabled text is drawn in the disabled colour, the others in the text colour.
+        QVERIFY(countColor(disabledImage, colors.buttonTextDisabled) > 5);
+        QCOMPARE(countColor(disabledImage, colors.buttonText), 0);
+        QVERIFY(countColor(plainImage, colors.buttonText) > 5);
+        // Hovering shows the hover background.
+        QTest::mouseMove(buttonOf(plain), QPoint(5, 5));
+        QTRY_VERIFY(buttonOf(plain)->underMouse());
+        const QImage hoverImage = buttonOf(plain)->grab().toImage();
+        QVERIFY(countColor(hoverImage, colors.buttonHoverBackground) > hoverImage.width() * 4);
+        saveShot(&page, QStringLiteral("states"));
+        QApplication::setStyle(QStringLiteral("Fusion"));
+    }
+
     void shotsInStyles_data()
     {
         QTest::addColumn<int>("style");
