@@ -130,7 +130,7 @@ void DemoCommands::registerFile()
         tr("Show facts about the document"));
     add(FileClearRecent, G::ClearRecent, tr("&Clear Recent Files"), QKeySequence(), tr("Forget the recent files"),
         true);
-    add(FileExit, G::Exit, tr("E&xit"), QKeySequence(tr("Ctrl+Q")), tr("Quit the application"), true);
+    add(FileExit, G::Exit, tr("E&xit"), QKeySequence(tr("Alt+F4")), tr("Quit the application"), true);
     for (int id = FileRecentFirst; id <= FileRecentLast; ++id) {
         QAction* action = add(id, G::Recent, tr("Recent file %1").arg(id - FileRecentFirst + 1), QKeySequence(),
                               QString(), true);

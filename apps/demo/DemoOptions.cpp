@@ -10,6 +10,10 @@ DemoOptions::DemoOptions()
                    QStringLiteral("file"))
     , m_size(QStringLiteral("size"), QStringLiteral("Window size for --screenshot (default 1400x900)."),
              QStringLiteral("WxH"))
+    , m_search(QStringLiteral("search"),
+               QStringLiteral("With --screenshot: type <text> into the quick search box and picture the whole "
+                              "screen with the result popup."),
+               QStringLiteral("text"))
     , m_settings(QStringLiteral("settings"),
                  QStringLiteral("Use <file> for the settings instead of the user's config folder."),
                  QStringLiteral("file"))
@@ -20,6 +24,7 @@ DemoOptions::DemoOptions()
     m_parser.addOption(m_help);
     m_parser.addOption(m_screenshot);
     m_parser.addOption(m_size);
+    m_parser.addOption(m_search);
     m_parser.addOption(m_settings);
     m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to open."),
                                    QStringLiteral("[files...]"));
@@ -36,6 +41,7 @@ DemoOptions::Result DemoOptions::parse(const QStringList& arguments)
         return ExitOk;
     }
     screenshotFile = m_parser.value(m_screenshot);
+    searchText = m_parser.value(m_search);
     settingsFile = m_parser.value(m_settings);
     files = m_parser.positionalArguments();
     if (m_parser.isSet(m_size)) {

@@ -20,6 +20,8 @@ public:
     /// Where to save a picture of the main window; empty to run normally.
     QString screenshotFile;
     QSize screenshotSize{1400, 900};
+    /// With a screenshot: text typed into the quick search box, pictured with its popup.
+    QString searchText;
     /// Settings file to use instead of the one in the user's config folder.
     QString settingsFile;
     /// Documents to open at start.
@@ -32,6 +34,7 @@ private:
     QCommandLineOption m_help;
     QCommandLineOption m_screenshot;
     QCommandLineOption m_size;
+    QCommandLineOption m_search;
     QCommandLineOption m_settings;
     QString m_output;
 };

@@ -4,6 +4,7 @@
 #include "DemoDocument.h"
 #include "DemoFindBar.h"
 #include "DemoIcons.h"
+#include "DemoSearch.h"
 #include "DemoSettings.h"
 
 #include "CommandsRegistry.h"
@@ -34,6 +35,7 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent)
     // Shortcuts work whatever shows the actions (menus, tool bars or a ribbon).
     addActions(m_commands->registry()->getActions());
     createMenus();
+    demo::createQuickSearch(this, m_commands->categoryMenus());
     createToolBars();
     createStatusBar();
     restoreSettings();

@@ -1,6 +1,8 @@
 #include "DemoCommands.h"
 #include "DemoOptions.h"
+#include "DemoSearch.h"
 #include "DemoWindow.h"
+#include "QuickSearch.h"
 
 #include <QApplication>
 #include <QDir>
@@ -35,7 +37,11 @@ int main(int argc, char* argv[])
 
     if (!options.screenshotFile.isEmpty()) {
         const QString path = QFileInfo(options.screenshotFile).absoluteFilePath();
-        if (!window.saveScreenshot(path, options.screenshotSize)) {
+        const bool saved = options.searchText.isEmpty()
+            ? window.saveScreenshot(path, options.screenshotSize)
+            : demo::saveQuickSearchScreenshot(&window, window.findChild<ui::QuickSearchWidget*>(QStringLiteral("quickSearch")),
+                                              options.searchText, path);
+        if (!saved) {
             QTextStream(stderr) << "Cannot write " << QDir::toNativeSeparators(path) << '\n';
             return 1;
         }

@@ -1,0 +1,186 @@
+#include "DemoSearch.h"
+
+#include "QuickSearch.h"
+
+#include <QtitanRibbon.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPixmap>
+#include <QScreen>
+#include <QToolBar>
+
+namespace demo {
+
+namespace {
+
+const char* const toolBarName = "quickSearchToolBar";
+
+// Keeps the box at the right end of the ribbon's tab row. The ribbon lays out
+// its tabs itself, so a corner widget of the underlying QMenuBar would be
+// placed by QMenuBar's own rules and land in the title area.
+class RibbonPlacement : public QObject
+{
+public:
+    RibbonPlacement(Qtitan::RibbonBar* ribbon, ui::QuickSearchWidget* box)
+        : QObject(box)
+        , m_ribbon(ribbon)
+        , m_box(box)
+    {
+        ribbon->installEventFilter(this);
+        place();
+    }
+
+    Qtitan::RibbonBar* ribbon() const { return m_ribbon; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_ribbon) {
+            switch (event->type()) {
+            case QEvent::Resize:
+            case QEvent::Show:
+            case QEvent::LayoutRequest:
+            case QEvent::StyleChange:
+            case QEvent::FontChange:
+                place();
+                break;
+            default:
+                break;
+            }
+        }
+        return false;
+    }
+
+    void place()
+    {
+        const QSize hint = m_box->sizeHint();
+        // The tab row: where the first tab is, else the top of the bar.
+        const QRect tab = m_ribbon->pageCount() > 0 ? m_ribbon->tabRect(0) : QRect();
+        const int rowTop = tab.isValid() ? tab.top() : 0;
+        const int rowHeight = tab.isValid() ? tab.height() : hint.height();
+        const int height = qMin(hint.height(), qMax(rowHeight - 2, 16));
+        m_box->setGeometry(m_ribbon->width() - hint.width() - 6, rowTop + (rowHeight - height) / 2, hint.width(),
+                           height);
+        m_box->raise();
+    }
+
+private:
+    Qtitan::RibbonBar* m_ribbon;
+    ui::QuickSearchWidget* m_box;
+};
+
+void removeOldPlacement(QMainWindow* window, ui::QuickSearchWidget* box)
+{
+    // Not a Q_OBJECT class: findChild() would take any child for it.
+    for (QObject* child : box->children()) {
+        if (auto* placement = dynamic_cast<RibbonPlacement*>(child)) {
+            delete placement;
+            break;
+        }
+    }
+    if (auto* bar = window->findChild<QToolBar*>(QLatin1String(toolBarName))) {
+        box->setParent(window);
+        delete bar;
+    }
+    const QList<QMenuBar*> bars = window->findChildren<QMenuBar*>();
+    for (QMenuBar* bar : bars) {
+        if (bar->cornerWidget(Qt::TopRightCorner) == box)
+            bar->setCornerWidget(nullptr, Qt::TopRightCorner);
+    }
+}
+
+// Waits for the window system and the event loop, so that the picture shows
+// what a user would see.
+void settle(int ms)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < ms)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+} // namespace
+
+ui::QuickSearchWidget* createQuickSearch(QMainWindow* window, const QList<QMenu*>& menus)
+{
+    auto* box = new ui::QuickSearchWidget(window);
+    box->setObjectName(QStringLiteral("quickSearch"));
+    QList<QAction*> source;
+    for (QMenu* menu : menus)
+        source.append(menu->menuAction());
+    box->setSource(source);
+    placeQuickSearch(window, box);
+    return box;
+}
+
+void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box)
+{
+    removeOldPlacement(window, box);
+    QWidget* menuWidget = window->menuWidget();
+
+    if (auto* ribbon = qobject_cast<Qtitan::RibbonBar*>(menuWidget)) {
+        box->setParent(ribbon);
+        new RibbonPlacement(ribbon, box);
+        box->show();
+        return;
+    }
+
+    // A plain menu bar, or one inside the menu widget (the shell's menu bar
+    // puts a real QMenuBar beside its corner strip).
+    QMenuBar* bar = qobject_cast<QMenuBar*>(menuWidget);
+    if (!bar && menuWidget)
+        bar = menuWidget->findChild<QMenuBar*>();
+    if (bar) {
+        bar->setCornerWidget(box, Qt::TopRightCorner);
+        box->show();
+        return;
+    }
+
+    auto* toolBar = new QToolBar(QApplication::translate("DemoSearch", "Quick Search"), window);
+    toolBar->setObjectName(QLatin1String(toolBarName));
+    toolBar->addWidget(box);
+    window->addToolBar(Qt::TopToolBarArea, toolBar);
+    box->show();
+}
+
+bool saveQuickSearchScreenshot(QMainWindow* window, ui::QuickSearchWidget* box, const QString& query,
+                               const QString& fileName)
+{
+    // The popup opens above the box: leave room for it above the window.
+    QScreen* screen = window->screen();
+    const QRect available = screen->availableGeometry();
+    const int room = qMin(360, available.height() / 3);
+    window->setWindowState(Qt::WindowNoState);
+    window->setGeometry(available.adjusted(40, room, -40, -40));
+    window->show();
+    window->activateWindow();
+    settle(600);
+
+    box->setFocus(Qt::ShortcutFocusReason);
+    box->clear();
+    for (const QChar key : query) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(key));
+        QCoreApplication::sendEvent(box, &press);
+        QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, QString(key));
+        QCoreApplication::sendEvent(box, &release);
+        settle(30);
+    }
+    settle(400);
+
+    QPixmap picture = screen->grabWindow(0);
+    QRect area = window->frameGeometry();
+    if (auto* popup = box->findChild<QMenu*>(); popup && popup->isVisible())
+        area = area.united(popup->frameGeometry());
+    area = area.adjusted(-8, -8, 8, 8).intersected(screen->geometry()).translated(-screen->geometry().topLeft());
+    if (!area.isEmpty())
+        picture = picture.copy(area);
+    return picture.save(fileName, "PNG");
+}
+
+} // namespace demo
