@@ -3,6 +3,7 @@
 #include "ribbonsample.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QDir>
 #include <QPointer>
 #include <QToolButton>
@@ -415,6 +416,41 @@ private slots:
         group->removeAction(extra);
         QTRY_COMPARE(group->width(), before);
         checkInvariants(page);
+    }
+
+    void hiddenPageLaysOutWhenShown()
+    {
+        QMainWindow window;
+        auto* bar = new RibbonBar(&window);
+        window.setMenuWidget(bar);
+        RibbonPage* first = bar->addPage(QStringLiteral("First"));
+        sample::fillHomePage(first);
+        RibbonPage* second = bar->addPage(QStringLiteral("Second"));
+        RibbonGroup* group = second->addGroup(QStringLiteral("Later"));
+        window.resize(1600, 500);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        // Visited once, so that its size is known and stays the same.
+        bar->setCurrentPageIndex(1);
+        QTRY_VERIFY(second->isVisible());
+        bar->setCurrentPageIndex(0);
+        QApplication::processEvents();
+        QVERIFY(!second->isVisible());
+        // Filled while hidden, the way the ribbon helpers edit groups.
+        QAction* a = sample::action(group, QStringLiteral("Added while hidden"), Qt::red);
+        group->addAction(a);
+        QCOMPARE(group->parentWidget()->parentWidget(), bar);
+        QApplication::processEvents();
+        bar->setCurrentPageIndex(1);
+        QTRY_VERIFY(second->isVisible());
+        QTRY_VERIFY(group->controlByAction(a)->isVisible());
+        QVERIFY(group->rect().contains(group->controlByAction(a)->geometry()));
+        QCOMPARE(group->width(), group->widthForSize(RibbonControlSizeDefinition::GroupLarge));
+        checkInvariants(*second);
+        // And the first page still fits its groups after coming back.
+        bar->setCurrentPageIndex(0);
+        QTRY_VERIFY(first->isVisible());
+        checkInvariants(*first);
     }
 
     void statesLookDifferent()
