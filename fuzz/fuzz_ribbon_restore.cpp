@@ -13,3 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     return ribbonfuzz::run(ribbonfuzz::Entry::Layout, data, size);
 }
+
+extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t maxSize, unsigned int seed)
+{
+    return ribbonfuzz::mutateCompressed(data, size, maxSize, seed);
+}

@@ -16,6 +16,9 @@
 #include <QWidgetAction>
 
 #include <cstdint>
+#include <cstring>
+
+extern "C" size_t LLVMFuzzerMutate(uint8_t* data, size_t size, size_t maxSize);
 
 namespace ribbonfuzz {
 
@@ -100,6 +103,30 @@ inline int run(Entry entry, const uint8_t* data, size_t size)
     }
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return 0;
+}
+
+// For the array targets: most mutations go to the uncompressed stream, which
+// is compressed again, so that the reader behind qUncompress gets exercised;
+// the rest go to the compressed bytes themselves (size claims, damaged zlib data).
+inline size_t mutateCompressed(uint8_t* data, size_t size, size_t maxSize, unsigned int seed)
+{
+    QByteArray raw;
+    if (size >= 4 && seed % 4 != 0) {
+        const quint32 claim = (quint32(data[0]) << 24) | (quint32(data[1]) << 16) | (quint32(data[2]) << 8) | data[3];
+        if (claim <= 1024 * 1024)
+            raw = qUncompress(data, int(size));
+    }
+    if (raw.isEmpty())
+        return LLVMFuzzerMutate(data, size, maxSize);
+    const int room = int(maxSize) * 4 + 64;
+    const int used = raw.size();
+    raw.resize(qMax(used, room));
+    raw.resize(int(LLVMFuzzerMutate(reinterpret_cast<uint8_t*>(raw.data()), size_t(used), size_t(raw.size()))));
+    const QByteArray packed = qCompress(raw);
+    if (size_t(packed.size()) > maxSize)
+        return LLVMFuzzerMutate(data, size, maxSize);
+    memcpy(data, packed.constData(), size_t(packed.size()));
+    return size_t(packed.size());
 }
 
 } // namespace ribbonfuzz
