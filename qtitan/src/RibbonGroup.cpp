@@ -31,6 +31,8 @@ RibbonGroupPopup::RibbonGroupPopup(RibbonGroup* group)
 {
     setObjectName(QStringLiteral("qtitan_ribbongroup_popup"));
     setAttribute(Qt::WA_WindowPropagation, true);
+    // A click on the group's button that closes the popup must not reopen it.
+    setAttribute(Qt::WA_NoMouseReplay, true);
 }
 
 void RibbonGroupPopup::paintEvent(QPaintEvent*)
