@@ -198,13 +198,33 @@ bool anyMenuShown()
     return false;
 }
 
+// A host window that offers a context menu wherever a right click reaches it.
+class MenuWindow : public QMainWindow
+{
+public:
+    int requests = 0;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override
+    {
+        ++requests;
+        auto* menu = new QMenu(this);
+        menu->setAttribute(Qt::WA_DeleteOnClose);
+        menu->addAction(QStringLiteral("Команда окна"));
+        menu->popup(event->globalPos());
+        event->accept();
+    }
+};
+
 } // namespace
 
 void tst_RibbonBar::rightClickShowsNoMenu()
 {
-    QMainWindow window;
+    MenuWindow window;
     auto* ribbon = new ui::RibbonBar(QStringLiteral("ctx"));
     window.setMenuWidget(ribbon);
+    auto* central = new QWidget;
+    window.setCentralWidget(central);
     QToolBar* toolBar = window.addToolBar(QStringLiteral("Панель"));
     toolBar->addAction(QStringLiteral("Команда"));
     Qtitan::RibbonPage* page = ribbon->addPage(QStringLiteral("Главная"));
@@ -218,8 +238,8 @@ void tst_RibbonBar::rightClickShowsNoMenu()
 
     // The harness sees a context menu where the window does offer one.
     {
-        QContextMenuEvent event = rightClickAt(toolBar);
-        QApplication::sendEvent(toolBar, &event);
+        QContextMenuEvent event = rightClickAt(central);
+        QApplication::sendEvent(central, &event);
         QVERIFY(anyMenuShown());
         QApplication::activePopupWidget()->close();
         QTRY_VERIFY(!anyMenuShown());
@@ -241,6 +261,8 @@ void tst_RibbonBar::rightClickShowsNoMenu()
     // A right click through the window's event path shows nothing either.
     QTest::mouseClick(ribbon, Qt::RightButton, {}, ribbon->rect().center());
     QVERIFY(!anyMenuShown());
+    // The ribbon keeps its right clicks: they never reach the host window.
+    QCOMPARE(window.requests, 1);
 }
 
 void tst_RibbonBar::destructionWithSharedSystemMenuActions()
