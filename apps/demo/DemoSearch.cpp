@@ -13,7 +13,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <QToolBar>
 
 namespace demo {
@@ -75,6 +77,60 @@ private:
     ui::QuickSearchWidget* m_box;
 };
 
+// When the window's menu widget is replaced, the old one is hidden and then
+// deleted with its children: take the box out first and place it again once
+// the new menu widget is in.
+class HostWatch : public QObject
+{
+public:
+    HostWatch(QMainWindow* window, ui::QuickSearchWidget* box)
+        : QObject(box)
+        , m_window(window)
+        , m_box(box)
+    {
+    }
+
+    void watch(QWidget* host)
+    {
+        if (m_host)
+            m_host->removeEventFilter(this);
+        m_host = host;
+        if (host)
+            host->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_host && event->type() == QEvent::Hide && m_host->isHidden()
+            && m_window->menuWidget() != nullptr && !m_window->isHidden()) {
+            watch(nullptr);
+            m_box->hide();
+            m_box->setParent(m_window);
+            QPointer<QMainWindow> window = m_window;
+            QPointer<ui::QuickSearchWidget> box = m_box;
+            QTimer::singleShot(0, m_box, [window, box] {
+                if (window && box)
+                    placeQuickSearch(window, box);
+            });
+        }
+        return false;
+    }
+
+private:
+    QMainWindow* m_window;
+    ui::QuickSearchWidget* m_box;
+    QPointer<QWidget> m_host;
+};
+
+HostWatch* hostWatch(QMainWindow* window, ui::QuickSearchWidget* box)
+{
+    for (QObject* child : box->children()) {
+        if (auto* watch = dynamic_cast<HostWatch*>(child))
+            return watch;
+    }
+    return new HostWatch(window, box);
+}
+
 void removeOldPlacement(QMainWindow* window, ui::QuickSearchWidget* box)
 {
     // Not a Q_OBJECT class: findChild() would take any child for it.
@@ -123,6 +179,7 @@ void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box)
 {
     removeOldPlacement(window, box);
     QWidget* menuWidget = window->menuWidget();
+    hostWatch(window, box)->watch(menuWidget);
 
     if (auto* ribbon = qobject_cast<Qtitan::RibbonBar*>(menuWidget)) {
         box->setParent(ribbon);
