@@ -284,7 +284,7 @@ void DemoWindow::openWelcomeDocument()
         "<li>Select a word: <b>Cut</b> and <b>Copy</b> become available, and <b>Bold</b> shows the word's format.</li>"
         "<li>Type something, then open the <b>Edit</b> menu: Undo tells what it will undo.</li>"
         "<li><b>View &rsaquo; Zoom</b> and <b>Format &rsaquo; Font Size</b> are id ranges served by one handler each.</li>"
-        "<li><b>View &rsaquo; Show Ruler</b> renames itself to Hide Ruler once the ruler is shown.</li>"
+        "<li><b>View &rsaquo; Hide Ruler</b> renames itself to Show Ruler once the ruler is hidden.</li>"
         "</ul>"
         "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
         "<tr><th>Menu</th><th>Examples</th></tr>"
