@@ -26,6 +26,14 @@ DemoOptions::DemoOptions()
     m_parser.addOption(m_size);
     m_parser.addOption(m_search);
     m_parser.addOption(m_settings);
+    // Read by main() before QApplication; listed here for --help.
+    m_parser.addOption(QCommandLineOption(QStringLiteral("classic"),
+                                          QStringLiteral("Show a classic menu bar instead of the ribbon.")));
+    m_parser.addOption(QCommandLineOption(QStringLiteral("style"),
+                                          QStringLiteral("Start in style <value>: -1 plain Qt, 0 Windows 7, "
+                                                         "10-13 Office 2007, 20-22 Office 2010, 30-32 Office 2013, "
+                                                         "40-43 Office 2016, 50-53 Photoshop."),
+                                          QStringLiteral("value")));
     m_parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to open."),
                                    QStringLiteral("[files...]"));
 }

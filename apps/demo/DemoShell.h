@@ -69,6 +69,12 @@ WindowActions createWindowActions(QMdiArea* area, QObject* parent);
 /// in light text.
 void keepTabTextReadable(QMdiArea* area);
 
+/// Sub-windows cannot be activated while the area is hidden, and a window
+/// that becomes active does not activate one by itself: once the area shows
+/// or its window is activated, this activates the sub-window that was made
+/// current last (or the newest one).
+void activateCurrentOnShow(QMdiArea* area);
+
 /// Puts a ui::MenuBar holding @p menus into @p window (as its menu widget),
 /// with @p cornerActions as small buttons at its right end.
 ui::MenuBar* installClassicMenuBar(QMainWindow* window, const QList<QMenu*>& menus,

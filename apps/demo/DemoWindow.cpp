@@ -8,26 +8,27 @@
 #include "DemoSettings.h"
 
 #include "CommandsRegistry.h"
+#include "MdiArea.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
 #include <QLabel>
-#include <QMenuBar>
+#include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QStatusBar>
-#include <QTabBar>
-#include <QTabWidget>
 #include <QTextCursor>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
-DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent)
-    : QMainWindow(parent)
+DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo::ShellOptions& shell)
+    : ui::MainWindow(parent)
     , m_settings(std::make_unique<DemoSettings>(settingsFile))
+    , m_classic(shell.classic)
 {
+    applyInitialStyle(shell);
     setObjectName(QStringLiteral("demoWindow"));
     setWindowIcon(DemoIcons::icon(DemoIcons::New));
     createDocumentArea();
@@ -57,18 +58,10 @@ void DemoWindow::createDocumentArea()
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
 
-    m_tabs = new QTabWidget(central);
-    m_tabs->setObjectName(QStringLiteral("demoDocuments"));
-    m_tabs->setDocumentMode(true);
-    m_tabs->setTabsClosable(true);
-    m_tabs->setMovable(true);
-    m_tabs->setElideMode(Qt::ElideRight);
-    connect(m_tabs, &QTabWidget::currentChanged, this, &DemoWindow::onCurrentTabChanged);
-    connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) {
-        if (auto* doc = qobject_cast<DemoDocument*>(m_tabs->widget(index)))
-            m_commands->close(doc);
-    });
-    layout->addWidget(m_tabs, 1);
+    m_area = new ui::MdiArea(central);
+    m_area->setObjectName(QStringLiteral("demoDocuments"));
+    connect(m_area, &QMdiArea::subWindowActivated, this, &DemoWindow::onCurrentTabChanged);
+    layout->addWidget(m_area, 1);
 
     m_findBar = new DemoFindBar(central);
     layout->addWidget(m_findBar);
@@ -77,8 +70,7 @@ void DemoWindow::createDocumentArea()
 
 void DemoWindow::createMenus()
 {
-    for (QMenu* menu : m_commands->categoryMenus())
-        menuBar()->addMenu(menu);
+    createShell();
     m_findBar->setNavigationActions(m_commands->action(DemoCommands::EditFindNext),
                                     m_commands->action(DemoCommands::EditFindPrevious));
 }
@@ -161,55 +153,108 @@ void DemoWindow::closeEvent(QCloseEvent* event)
 
 DemoDocument* DemoWindow::activeDocument() const
 {
-    return qobject_cast<DemoDocument*>(m_tabs->currentWidget());
+    // The current sub-window stays current while the application is inactive.
+    if (QMdiSubWindow* window = m_area->currentSubWindow()) {
+        if (auto* doc = qobject_cast<DemoDocument*>(window->widget()))
+            return doc;
+    }
+    // While none is active (just shown, or received while hidden), the one
+    // used last still counts.
+    const QList<QMdiSubWindow*> history = m_area->subWindowList(QMdiArea::ActivationHistoryOrder);
+    for (auto it = history.crbegin(); it != history.crend(); ++it) {
+        if (auto* doc = qobject_cast<DemoDocument*>((*it)->widget()))
+            return doc;
+    }
+    return nullptr;
 }
 
 QList<DemoDocument*> DemoWindow::documents() const
 {
     QList<DemoDocument*> list;
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        if (auto* doc = qobject_cast<DemoDocument*>(m_tabs->widget(i)))
+    for (QMdiSubWindow* window : m_area->subWindowList(QMdiArea::CreationOrder)) {
+        if (auto* doc = qobject_cast<DemoDocument*>(window->widget()))
             list.append(doc);
     }
     return list;
 }
 
+namespace {
+
+// Closing a document's tab goes through the Close command, which may ask to save.
+class CloseThroughCommand : public QObject
+{
+public:
+    CloseThroughCommand(DemoCommands* commands, DemoDocument* document, QObject* parent)
+        : QObject(parent), m_commands(commands), m_document(document) {}
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Close && !m_closing) {
+            event->ignore();
+            m_closing = true;
+            m_commands->close(m_document);
+            m_closing = false;
+            return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    DemoCommands* m_commands;
+    DemoDocument* m_document;
+    bool m_closing = false;
+};
+
+QMdiSubWindow* subWindowOf(DemoDocument* document)
+{
+    return document ? qobject_cast<QMdiSubWindow*>(document->parentWidget()) : nullptr;
+}
+
+} // namespace
+
 void DemoWindow::addDocument(DemoDocument* document)
 {
-    const int index = m_tabs->addTab(document, DemoIcons::icon(DemoIcons::New), document->title());
-    const auto retitle = [this, document] {
-        const int i = m_tabs->indexOf(document);
-        if (i < 0)
-            return;
-        m_tabs->setTabText(i, document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));
-        m_tabs->setTabToolTip(i, document->filePath());
+    QMdiSubWindow* window = m_area->addSubWindow(document);
+    window->setWindowIcon(DemoIcons::icon(DemoIcons::New));
+    window->installEventFilter(new CloseThroughCommand(m_commands, document, window));
+    const auto retitle = [this, document, window] {
+        window->setWindowTitle(document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));
+        window->setToolTip(document->filePath());
         if (document == activeDocument())
             updateTitle();
     };
-    // Tied to the tab widget so that switching documents does not drop it.
-    connect(document, &DemoDocument::titleChanged, m_tabs, retitle);
-    m_tabs->setCurrentIndex(index);
+    connect(document, &DemoDocument::titleChanged, window, retitle);
+    retitle();
+    // Tabbed documents fill the area.
+    window->showMaximized();
+    m_area->setActiveSubWindow(window);
     document->setFocus();
+    // Activation is not reported while the window is hidden.
+    if (m_connectedDocument != activeDocument())
+        onCurrentTabChanged();
 }
 
 void DemoWindow::activateDocument(DemoDocument* document)
 {
-    const int index = m_tabs->indexOf(document);
-    if (index >= 0) {
-        m_tabs->setCurrentIndex(index);
+    if (QMdiSubWindow* window = subWindowOf(document)) {
+        m_area->setActiveSubWindow(window);
         document->setFocus();
+        if (m_connectedDocument != activeDocument())
+            onCurrentTabChanged();
     }
 }
 
 void DemoWindow::removeDocument(DemoDocument* document)
 {
-    const int index = m_tabs->indexOf(document);
-    if (index < 0)
+    QMdiSubWindow* window = subWindowOf(document);
+    if (!window || !m_area->subWindowList().contains(window))
         return;
     if (m_connectedDocument == document)
         m_connectedDocument = nullptr;
-    m_tabs->removeTab(index);
-    document->deleteLater();
+    m_area->removeSubWindow(window);
+    window->hide();
+    window->deleteLater();
+    onCurrentTabChanged();
 }
 
 void DemoWindow::onCurrentTabChanged()

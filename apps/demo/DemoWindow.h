@@ -1,6 +1,9 @@
 #pragma once
 
-#include <QMainWindow>
+#include "DemoDocks.h"
+#include "DemoShell.h"
+
+#include <MainWindow.h>
 
 #include <memory>
 
@@ -9,9 +12,16 @@ class DemoDocument;
 class DemoFindBar;
 class DemoSettings;
 class QLabel;
-class QTabWidget;
 class QTimer;
 class QToolBar;
+
+namespace demo {
+class StyleMenu;
+}
+namespace ui {
+class DockListMenu;
+class MdiArea;
+}
 
 /// The demo's main window: the menu bar built from the command categories,
 /// two tool bars, the document area, a find bar and a status bar. It owns the
@@ -20,13 +30,15 @@ class QToolBar;
 /// Documents are reached only through activeDocument(), documents(),
 /// addDocument(), activateDocument() and removeDocument(), so that the
 /// document area can change without touching the commands.
-class DemoWindow : public QMainWindow
+class DemoWindow : public ui::MainWindow
 {
     Q_OBJECT
 
 public:
-    /// \a settingsFile overrides the default settings location.
-    explicit DemoWindow(const QString& settingsFile = QString(), QWidget* parent = nullptr);
+    /// \a settingsFile overrides the default settings location; \a shell picks
+    /// the ribbon or the classic menu bar and the style to start with.
+    explicit DemoWindow(const QString& settingsFile = QString(), QWidget* parent = nullptr,
+                        const demo::ShellOptions& shell = demo::ShellOptions());
     ~DemoWindow() override;
 
     DemoSettings& settings() const { return *m_settings; }
@@ -54,6 +66,16 @@ public:
     /// Makes the window open with the welcome document (done when nothing else is opened).
     void openWelcomeDocument();
 
+    // The shell (DemoWindowShell.cpp).
+    bool isClassic() const { return m_classic; }
+    ui::MdiArea* documentArea() const { return m_area; }
+    const demo::DemoDocks& docks() const { return m_docks; }
+    ui::DockListMenu* panelsMenu() const { return m_panelsMenu; }
+    demo::StyleMenu* styleMenu() const { return m_styleMenu; }
+    std::vector<ui::MainWindow::Style> supportedStyles() { return getSupportedStyles(); }
+    /// Switches the application style and remembers it in the settings.
+    void chooseStyle(int style);
+
 signals:
     void activeDocumentChanged(DemoDocument* document);
 
@@ -63,6 +85,8 @@ protected:
 private:
     void createDocumentArea();
     void createMenus();
+    void applyInitialStyle(const demo::ShellOptions& shell);
+    void createShell();
     void createToolBars();
     void createStatusBar();
     void restoreSettings();
@@ -73,7 +97,11 @@ private:
 
     std::unique_ptr<DemoSettings> m_settings;
     DemoCommands* m_commands = nullptr;
-    QTabWidget* m_tabs = nullptr;
+    ui::MdiArea* m_area = nullptr;
+    bool m_classic = false;
+    demo::DemoDocks m_docks;
+    ui::DockListMenu* m_panelsMenu = nullptr;
+    demo::StyleMenu* m_styleMenu = nullptr;
     DemoFindBar* m_findBar = nullptr;
     QToolBar* m_standardToolBar = nullptr;
     QToolBar* m_formatToolBar = nullptr;

@@ -1,6 +1,7 @@
 #include "DemoCommands.h"
 #include "DemoOptions.h"
 #include "DemoSearch.h"
+#include "DemoShell.h"
 #include "DemoWindow.h"
 #include "QuickSearch.h"
 
@@ -11,6 +12,8 @@
 
 int main(int argc, char* argv[])
 {
+    // Taken out before QApplication, which reads --style as a Qt style name.
+    const demo::ShellOptions shell = demo::takeShellOptions(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tessaro-demo"));
     QApplication::setOrganizationName(QStringLiteral("Tessaro"));
@@ -29,7 +32,12 @@ int main(int argc, char* argv[])
         break;
     }
 
-    DemoWindow window(options.settingsFile);
+    if (!shell.error.isEmpty()) {
+        QTextStream(stderr) << shell.error << '\n';
+        return 2;
+    }
+
+    DemoWindow window(options.settingsFile, nullptr, shell);
     for (const QString& file : qAsConst(options.files))
         window.commands()->openFile(file);
     if (window.documents().isEmpty())

@@ -1,6 +1,9 @@
+#include "DemoCommands.h"
 #include "DemoDocks.h"
 #include "DemoShell.h"
+#include "DemoSettings.h"
 #include "DemoStyles.h"
+#include "DemoWindow.h"
 
 #include <DockListMenu.h>
 #include <MainWindow.h>
@@ -16,6 +19,7 @@
 #include <QTabBar>
 #include <QTextEdit>
 #include <QToolBar>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -44,6 +48,9 @@ private slots:
     void classicMenuBarCarriesMenusAndCornerActions();
     void windowActionsFollowDocuments();
     void tabTextStaysDarkAcrossStyles();
+    void demoWindowUsesTheShell();
+    void demoWindowRemembersTheChosenStyle();
+    void demoWindowClassicMode();
 };
 
 void tst_DemoShell::cleanup()
@@ -239,6 +246,87 @@ void tst_DemoShell::tabTextStaysDarkAcrossStyles()
         QVERIFY(tabBar->palette().color(QPalette::ButtonText).lightness() < 80);
     }
     QVERIFY(area.palette().color(QPalette::WindowText) != QColor(20, 20, 20));
+}
+
+void tst_DemoShell::demoWindowUsesTheShell()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    QVERIFY(window.ribbonBar());
+    QVERIFY(!window.findChild<ui::MenuBar*>());
+    QVERIFY(qobject_cast<ui::MainWindow*>(&window));
+    QCOMPARE(int(window.currentStyle()), 40); // nothing saved, nothing asked
+
+    // Several documents in the tabbed area; the newest is current once shown.
+    for (int i = 0; i < 3; ++i)
+        window.commands()->newDocument();
+    window.resize(1000, 700);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::MdiArea* area = window.documentArea();
+    QCOMPARE(area->subWindowList().size(), 3);
+    QCOMPARE(window.documents().size(), 3);
+    QTRY_VERIFY(area->activeSubWindow());
+    QCOMPARE(window.activeDocument(), window.documents().last());
+    QCOMPARE(area->findChild<QTabBar*>()->count(), 3);
+
+    // Activating another document through the window.
+    window.activateDocument(window.documents().first());
+    QCOMPARE(window.activeDocument(), window.documents().first());
+
+    // The View menu holds the panels and the styles.
+    QMenu* view = window.commands()->categoryMenu(DemoCommands::View);
+    QVERIFY(view->actions().contains(window.panelsMenu()->menuAction()));
+    QVERIFY(view->actions().contains(window.styleMenu()->menuAction()));
+    QVERIFY(window.panelsMenu()->menuAction()->property("isDynamic").toBool());
+    window.panelsMenu()->popup(QPoint(0, 0));
+    QTRY_VERIFY(window.panelsMenu()->isVisible());
+    window.panelsMenu()->hide();
+    QCOMPARE(window.panelsMenu()->actions(), (QList<QAction*>{window.docks().outline->toggleViewAction(),
+                                                               window.docks().properties->toggleViewAction(),
+                                                               window.docks().log->toggleViewAction()}));
+}
+
+void tst_DemoShell::demoWindowRemembersTheChosenStyle()
+{
+    QTemporaryDir dir;
+    const QString file = dir.filePath(QStringLiteral("settings.dat"));
+    {
+        DemoWindow window(file);
+        window.chooseStyle(42);
+        QCOMPARE(int(window.currentStyle()), 42);
+        QCOMPARE(window.settings().value(demo::styleKey).toInt(), 42);
+    }
+    demo::applyStyle(-1);
+    {
+        DemoWindow window(file);
+        QCOMPARE(int(window.currentStyle()), 42);
+    }
+    // The command line wins over the saved style, and is not saved by itself.
+    demo::ShellOptions options;
+    options.hasStyle = true;
+    options.style = 13;
+    {
+        DemoWindow window(file, nullptr, options);
+        QCOMPARE(int(window.currentStyle()), 13);
+        QCOMPARE(window.settings().value(demo::styleKey).toInt(), 42);
+    }
+}
+
+void tst_DemoShell::demoWindowClassicMode()
+{
+    QTemporaryDir dir;
+    demo::ShellOptions options;
+    options.classic = true;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")), nullptr, options);
+    QVERIFY(!window.ribbonBar());
+    auto* bar = qobject_cast<ui::MenuBar*>(window.menuWidget());
+    QVERIFY(bar);
+    const QList<QAction*> corner = bar->findChild<QToolBar*>()->actions();
+    QCOMPARE(corner.size(), 4);
+    QCOMPARE(corner.last(), window.commands()->action(DemoCommands::HelpContents));
+    for (QAction* action : corner)
+        QVERIFY(!action->icon().isNull());
 }
 
 QTEST_MAIN(tst_DemoShell)
