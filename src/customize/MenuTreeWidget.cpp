@@ -25,9 +25,14 @@ MenuTreeWidget::~MenuTreeWidget() = default;
 
 void MenuTreeWidget::setMenu(QMenu* menu)
 {
+    const bool hadCurrent = currentIndex().isValid();
     m_menu = menu;
     m_model->setMenu(menu);
     expandAll();
+    // The selection model clears its current index on a reset without a
+    // signal; listeners still showing the old command must hear of it.
+    if (hadCurrent && !currentIndex().isValid())
+        onMenuTreeViewCurrentChanged(QModelIndex());
 }
 
 QMenu* MenuTreeWidget::menu() const

@@ -29,6 +29,7 @@ public:
 
     /// Shows @p menu (not owned; may be null): resets the model and expands
     /// every category. Call it again after changing the menu's structure.
+    /// A command that was current is dropped: currentActionChanged(nullptr).
     void setMenu(QMenu* menu);
     /// The menu shown, or null.
     QMenu* menu() const;

@@ -139,6 +139,7 @@ private slots:
     void widgetClickEmitsCurrentActionChanged();
     void widgetClickOnCategoryOrSeparatorKeepsCurrent();
     void widgetCurrentClearedEmitsNull();
+    void widgetSetMenuDropsCurrent();
     void widgetDoubleClickCommand();
     void widgetDoubleClickDynamicMenu();
     void widgetDoubleClickCategoryOrSeparator();
@@ -639,6 +640,21 @@ void TestMenuTree::widgetCurrentClearedEmitsNull()
     tree.selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0).at(0).value<QAction*>(), static_cast<QAction*>(nullptr));
+}
+
+void TestMenuTree::widgetSetMenuDropsCurrent()
+{
+    Fixture f;
+    MenuTreeWidget tree(nullptr, &f.root);
+    QSignalSpy spy(&tree, &MenuTreeWidget::currentActionChanged);
+    tree.setMenu(&f.root); // nothing current: nothing to report
+    QCOMPARE(spy.count(), 0);
+    tree.setCurrentIndex(findIndex(*tree.model(), f.pdf));
+    QCOMPARE(spy.count(), 1);
+    tree.setMenu(&f.root);
+    QVERIFY(!tree.currentIndex().isValid());
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(1).at(0).value<QAction*>(), static_cast<QAction*>(nullptr));
 }
 
 void TestMenuTree::widgetDoubleClickCommand()
