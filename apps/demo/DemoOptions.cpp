@@ -17,6 +17,8 @@ DemoOptions::DemoOptions()
     , m_settings(QStringLiteral("settings"),
                  QStringLiteral("Use <file> for the settings instead of the user's config folder."),
                  QStringLiteral("file"))
+    , m_resetLayout(QStringLiteral("reset-layout"),
+                    QStringLiteral("Forget the saved ribbon layout and quick access bar; start with the ribbon as built."))
 {
     m_parser.setApplicationDescription(
         QStringLiteral("Sample host of the Tessaro library: a small rich-text editor whose commands, menus and "
@@ -26,6 +28,7 @@ DemoOptions::DemoOptions()
     m_parser.addOption(m_size);
     m_parser.addOption(m_search);
     m_parser.addOption(m_settings);
+    m_parser.addOption(m_resetLayout);
     // Read by main() before QApplication; listed here for --help.
     m_parser.addOption(QCommandLineOption(QStringLiteral("classic"),
                                           QStringLiteral("Show a classic menu bar instead of the ribbon.")));
@@ -51,6 +54,7 @@ DemoOptions::Result DemoOptions::parse(const QStringList& arguments)
     screenshotFile = m_parser.value(m_screenshot);
     searchText = m_parser.value(m_search);
     settingsFile = m_parser.value(m_settings);
+    resetLayout = m_parser.isSet(m_resetLayout);
     files = m_parser.positionalArguments();
     if (m_parser.isSet(m_size)) {
         static const QRegularExpression pattern(QStringLiteral("^(\\d+)x(\\d+)$"));

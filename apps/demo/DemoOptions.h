@@ -24,6 +24,8 @@ public:
     QString searchText;
     /// Settings file to use instead of the one in the user's config folder.
     QString settingsFile;
+    /// --reset-layout: forget the saved ribbon layout and quick access bar.
+    bool resetLayout = false;
     /// Documents to open at start.
     QStringList files;
 
@@ -36,5 +38,6 @@ private:
     QCommandLineOption m_size;
     QCommandLineOption m_search;
     QCommandLineOption m_settings;
+    QCommandLineOption m_resetLayout;
     QString m_output;
 };

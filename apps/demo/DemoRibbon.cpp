@@ -2,6 +2,9 @@
 
 #include "DemoCommands.h"
 #include "DemoIcons.h"
+#include "DemoRibbonCommands.h"
+
+#include <RibbonBar.h>
 
 #include <QtitanRibbon.h>
 
@@ -23,37 +26,23 @@ void addCommands(Qtitan::RibbonGroup* group, DemoCommands* commands, const QList
     }
 }
 
-// A big button that opens a menu of the host's.
-void addMenuButton(Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon, const QString& text)
+// A big button that opens a menu of the host's, filled when it opens. The
+// action belongs to the ribbon and is stored by name in the saved layout.
+void addMenuButton(Qtitan::RibbonBar* ribbon, Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon,
+                   const QString& text, const QString& name)
 {
-    auto* action = new QAction(icon, text, group);
+    auto* action = new QAction(icon, text, ribbon);
+    action->setObjectName(QStringLiteral("ribbon.") + name);
+    action->setProperty("isDynamic", true);
     group->addAction(action, Qt::ToolButtonTextUnderIcon, menu, QToolButton::InstantPopup);
-}
-
-void fillSystemMenu(Qtitan::RibbonBar* ribbon, DemoCommands* commands)
-{
-    QAction* system = ribbon->addSystemButton(QObject::tr("File"));
-    auto* menu = qobject_cast<Qtitan::RibbonSystemMenu*>(system->menu());
-    if (!menu)
-        return;
-    for (int id : std::initializer_list<int>{C::FileNew, C::FileOpen, C::FileSave, C::FileSaveAs, C::FileSaveAll, 0, C::FileExportHtml,
-                   C::FileExportText, C::FileProperties, 0, C::FileClose, C::FileCloseAll}) {
-        if (id == 0)
-            menu->addSeparator();
-        else if (QAction* action = commands->action(id))
-            menu->addAction(action);
-    }
-    if (QAction* exit = commands->action(C::FileExit))
-        menu->addPopupBarAction(exit, Qt::ToolButtonTextBesideIcon);
 }
 
 } // namespace
 
 Qtitan::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* styleMenu, QWidget* parent)
 {
-    auto* ribbon = new Qtitan::RibbonBar(parent);
+    auto* ribbon = new ui::RibbonBar(QStringLiteral("DemoRibbon"), parent);
     ribbon->setObjectName(QStringLiteral("demoRibbon"));
-    fillSystemMenu(ribbon, commands);
 
     Qtitan::RibbonPage* home = ribbon->addPage(QObject::tr("Home"));
     Qtitan::RibbonGroup* clipboard = home->addGroup(QObject::tr("Clipboard"));
@@ -85,8 +74,10 @@ Qtitan::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu
 
     Qtitan::RibbonPage* view = ribbon->addPage(QObject::tr("View"));
     Qtitan::RibbonGroup* window = view->addGroup(QObject::tr("Window"));
-    addMenuButton(window, panelsMenu, DemoIcons::icon(DemoIcons::ToolBar), QObject::tr("Panels"));
-    addMenuButton(window, styleMenu, DemoIcons::icon(DemoIcons::TextColor, QColor(43, 87, 154)), QObject::tr("Style"));
+    addMenuButton(ribbon, window, panelsMenu, DemoIcons::icon(DemoIcons::ToolBar), QObject::tr("Panels"),
+                  QStringLiteral("panels"));
+    addMenuButton(ribbon, window, styleMenu, DemoIcons::icon(DemoIcons::TextColor, QColor(43, 87, 154)), QObject::tr("Style"),
+                  QStringLiteral("style"));
     Qtitan::RibbonGroup* show = view->addGroup(QObject::tr("Show"));
     addCommands(show, commands, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar}, Qt::ToolButtonTextBesideIcon);
     Qtitan::RibbonGroup* zoom = view->addGroup(QObject::tr("Zoom"));
@@ -99,6 +90,7 @@ Qtitan::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu
         if (QAction* action = commands->action(id))
             ribbon->quickAccessBar()->addAction(action);
     }
+    addRibbonCommands(ribbon, commands, parent);
     return ribbon;
 }
 

@@ -5,6 +5,7 @@
 #include "DemoFindBar.h"
 #include "DemoIcons.h"
 #include "DemoSearch.h"
+#include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
 
 #include "CommandsRegistry.h"
@@ -127,6 +128,7 @@ void DemoWindow::restoreSettings()
 
 void DemoWindow::saveSettings()
 {
+    demo::saveRibbonLayout(*this);
     m_settings->setValue(DemoSettings::geometryKey, saveGeometry());
     m_settings->setValue(DemoSettings::windowStateKey, saveState());
     if (DemoDocument* doc = activeDocument()) {

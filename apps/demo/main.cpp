@@ -1,5 +1,6 @@
 #include "DemoCommands.h"
 #include "DemoOptions.h"
+#include "DemoRibbonSerializer.h"
 #include "DemoSearch.h"
 #include "DemoShell.h"
 #include "DemoWindow.h"
@@ -38,6 +39,7 @@ int main(int argc, char* argv[])
     }
 
     DemoWindow window(options.settingsFile, nullptr, shell);
+    demo::restoreRibbonLayout(window, options.resetLayout);
     for (const QString& file : qAsConst(options.files))
         window.commands()->openFile(file);
     if (window.documents().isEmpty())

@@ -1,0 +1,94 @@
+#include "DemoRibbonSerializer.h"
+
+#include "DemoCommands.h"
+#include "DemoSettings.h"
+#include "DemoWindow.h"
+
+#include <RibbonBar.h>
+
+#include <QAction>
+
+namespace demo {
+
+const QString DemoRibbonSerializer::layoutKey = QStringLiteral("ribbon/layout");
+const QString DemoRibbonSerializer::quickBarKey = QStringLiteral("ribbon/quickBar");
+
+namespace {
+
+const QString commandPrefix = QStringLiteral("cmd.");
+const QString ribbonPrefix = QStringLiteral("ribbon.");
+
+} // namespace
+
+DemoRibbonSerializer::DemoRibbonSerializer(ui::RibbonBar* ribbon, DemoCommands* commands)
+    : ui::RibbonSerializer(ribbon)
+    , m_ribbon(ribbon)
+    , m_commands(commands)
+{
+}
+
+QString DemoRibbonSerializer::getActionID(QAction* action)
+{
+    const int id = action->data().toInt();
+    if (id > 0 && m_commands->action(id) == action)
+        return commandPrefix + QString::number(id);
+    if (action->objectName().startsWith(ribbonPrefix) && action->parent() == m_ribbon)
+        return action->objectName();
+    return QString();
+}
+
+QAction* DemoRibbonSerializer::getAction(const QString& id) const
+{
+    if (id.startsWith(commandPrefix)) {
+        bool ok = false;
+        const int command = id.mid(commandPrefix.size()).toInt(&ok);
+        return ok && command > 0 ? m_commands->action(command) : nullptr;
+    }
+    if (id.startsWith(ribbonPrefix))
+        return m_ribbon->findChild<QAction*>(id, Qt::FindDirectChildrenOnly);
+    return nullptr;
+}
+
+bool DemoRibbonSerializer::restoreFrom(const DemoSettings& settings)
+{
+    const QByteArray layout = settings.value(layoutKey).toByteArray();
+    const QByteArray quickBar = settings.value(quickBarKey).toByteArray();
+    if (layout.isEmpty())
+        return false;
+    const bool restored = restore(layout);
+    if (!quickBar.isEmpty())
+        restoreQuickBar(quickBar);
+    m_ribbon->setCurrentPageIndex(0);
+    return restored;
+}
+
+void DemoRibbonSerializer::saveTo(DemoSettings& settings)
+{
+    settings.setValue(layoutKey, save());
+    settings.setValue(quickBarKey, saveQuickBar());
+}
+
+void DemoRibbonSerializer::reset(DemoSettings& settings)
+{
+    settings.setValue(layoutKey, QByteArray());
+    settings.setValue(quickBarKey, QByteArray());
+}
+
+void restoreRibbonLayout(DemoWindow& window, bool reset)
+{
+    auto* ribbon = qobject_cast<ui::RibbonBar*>(window.ribbonBar());
+    if (!ribbon)
+        return;
+    if (reset)
+        DemoRibbonSerializer::reset(window.settings());
+    else
+        DemoRibbonSerializer(ribbon, window.commands()).restoreFrom(window.settings());
+}
+
+void saveRibbonLayout(DemoWindow& window)
+{
+    if (auto* ribbon = qobject_cast<ui::RibbonBar*>(window.ribbonBar()))
+        DemoRibbonSerializer(ribbon, window.commands()).saveTo(window.settings());
+}
+
+} // namespace demo

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <RibbonSerializer.h>
+
+#include <QString>
+
+class DemoCommands;
+class DemoSettings;
+class DemoWindow;
+
+namespace ui {
+class RibbonBar;
+}
+
+namespace demo {
+
+/// Stores the demo's ribbon by command: a registry action as "cmd.<id>" (its
+/// command id), an action of the ribbon's own (a group command, the font size
+/// box, a menu button) by its object name "ribbon.<name>". Such actions are
+/// children of the ribbon itself, so that they outlive the pages a restore
+/// removes.
+class DemoRibbonSerializer : public ui::RibbonSerializer
+{
+public:
+    DemoRibbonSerializer(ui::RibbonBar* ribbon, DemoCommands* commands);
+
+    /// The settings keys of the stored layout and quick access bar.
+    static const QString layoutKey;
+    static const QString quickBarKey;
+
+    /// Rebuilds the ribbon and its quick access bar from \a settings; false
+    /// (the ribbon as built) when nothing is stored.
+    bool restoreFrom(const DemoSettings& settings);
+    /// Writes the ribbon and its quick access bar to \a settings.
+    void saveTo(DemoSettings& settings);
+    /// Drops the stored state: the next start shows the ribbon as built.
+    static void reset(DemoSettings& settings);
+
+protected:
+    QString getActionID(QAction* action) override;
+    QAction* getAction(const QString& id) const override;
+
+private:
+    ui::RibbonBar* m_ribbon;
+    DemoCommands* m_commands;
+};
+
+/// At start: restores the window's stored ribbon layout, or with \a reset
+/// drops it and keeps the ribbon as built. Nothing without a ribbon.
+void restoreRibbonLayout(DemoWindow& window, bool reset);
+/// On exit: stores the window's ribbon layout and quick access bar.
+void saveRibbonLayout(DemoWindow& window);
+
+} // namespace demo
