@@ -12,14 +12,17 @@ class RibbonWidgetControl::Private
 {
 public:
     QPointer<QWidget> widget;
-    QPointer<QWidgetAction> owner;
+    // A QObject pointer: while the action is being destroyed it is no longer
+    // a QWidgetAction, and a QPointer<QWidgetAction> would cast it to one.
+    QPointer<QObject> owner;
 
     void release()
     {
         // During the action's own destruction it is no longer a QWidgetAction
         // and has already deleted its widgets.
-        if (owner && widget && qobject_cast<QWidgetAction*>(owner.data()))
-            owner->releaseWidget(widget);
+        auto* action = qobject_cast<QWidgetAction*>(owner.data());
+        if (action && widget)
+            action->releaseWidget(widget);
         widget = nullptr;
         owner = nullptr;
     }

@@ -120,6 +120,7 @@ private Q_SLOTS:
     void moveActionToFront();
     void updateGroupKeepsOnlyStyles();
     void redrawPageNullSafe();
+    void widgetActionDeletedInGroup();
 };
 
 void tst_RibbonControls::handlerOnEmptyMenu()
@@ -701,6 +702,22 @@ void tst_RibbonControls::redrawPageNullSafe()
     Qtitan::RibbonGroup loose;
     ui::redrawPage(&loose);
     QCOMPARE(f.group->actions().size(), 1);
+}
+
+void tst_RibbonControls::widgetActionDeletedInGroup()
+{
+    // Found by fuzzing: a host's widget action dying while a group shows it
+    // (the control then saw it half destroyed).
+    RibbonFixture f(1);
+    auto* widgetAction = new QWidgetAction(nullptr);
+    widgetAction->setDefaultWidget(new QComboBox);
+    f.group->addAction(widgetAction);
+    QVERIFY(qobject_cast<Qtitan::RibbonWidgetControl*>(f.group->controlByAction(widgetAction)));
+    delete widgetAction;
+    QCOMPARE(f.group->actions(), (QList<QAction*>{f.actions[0]}));
+    QCOMPARE(f.group->controlCount(), 1);
+    ui::updateGroup(f.group);
+    QCOMPARE(f.group->controlCount(), 1);
 }
 
 QTEST_MAIN(tst_RibbonControls)
