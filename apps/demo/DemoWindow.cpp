@@ -100,6 +100,11 @@ void DemoWindow::createToolBars()
                            C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify, 0, C::FormatOutdent,
                            C::FormatIndent, 0, C::InsertBulletList, C::InsertNumberedList, 0, C::FormatGrowFont,
                            C::FormatShrinkFont, C::FormatClear});
+    // The ribbon already shows these commands; the tool bars are there on request.
+    if (!m_classic) {
+        m_standardToolBar->hide();
+        m_formatToolBar->hide();
+    }
 }
 
 void DemoWindow::createStatusBar()
