@@ -25,7 +25,7 @@ const quint32 nullLength = 0xffffffffu;
 
 // Values written by Qt 5 with the default stream settings.
 const quint32 sizeofDouble = 8;
-const quint32 sizeofColor = 11;      // qint8 spec, five quint16
+const quint32 sizeofColor = 11;      // qint8 colour model, five quint16
 const quint32 sizeofTransform = 9 * sizeofDouble;
 const int brushTexturePattern = 24;  // Qt::TexturePattern
 const int brushLastStyle = 24;
@@ -350,9 +350,9 @@ bool StoreValidator::variantList(int depth)
 
 bool StoreValidator::color()
 {
-    // Spec (Invalid .. ExtendedRgb), alpha, three components, padding.
-    quint8 spec = 0;
-    return readU8(spec) && spec <= 5 && skip(sizeofColor - 1);
+    // Colour model (Invalid .. ExtendedRgb), alpha, three components, padding.
+    quint8 model = 0;
+    return readU8(model) && model <= 5 && skip(sizeofColor - 1);
 }
 
 bool StoreValidator::regExp()
@@ -375,11 +375,11 @@ bool StoreValidator::bitArray()
 
 bool StoreValidator::dateTime()
 {
-    quint8 spec = 0;
-    if (!skip(8 + 4) || !readU8(spec))
+    quint8 timeKind = 0;
+    if (!skip(8 + 4) || !readU8(timeKind))
         return false;
-    // Qt keeps an unknown spec as it is and later takes it for a time zone.
-    switch (spec) {
+    // Qt keeps an unknown kind of time as it is and later takes it for a time zone.
+    switch (timeKind) {
     case Qt::LocalTime:
     case Qt::UTC:
         return true;

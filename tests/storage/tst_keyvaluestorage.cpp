@@ -501,9 +501,9 @@ private slots:
         }
         QTest::newRow("time zone path") << timeZone;
 
-        // Found by fuzzing: QDateTime keeps an unknown time spec or a zone that
+        // Found by fuzzing: QDateTime keeps an unknown kind of time or a zone that
         // did not load, and crashes when the store is written back.
-        QTest::newRow("datetime spec 55") << QByteArray::fromBase64(
+        QTest::newRow("datetime kind 55") << QByteArray::fromBase64(
             "AAAAAQAAABwAYABhAHQAZQB0AGkAbQBlAG8AZgBmAHMAZQB0AAAAEAAAAAAAACUm4zc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3"
             "Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3Nzc3AKh1AAIAAA4Q");
         QTest::newRow("datetime unknown zone") << QByteArray::fromBase64(
