@@ -18,10 +18,7 @@ AdobePhotoshopStyle::Theme AdobePhotoshopStyle::theme() const
 
 void AdobePhotoshopStyle::setTheme(Theme theme)
 {
-    if (m_theme == theme)
-        return;
-    m_theme = theme;
-    updateTheme();
+    changeTheme(m_theme, theme);
 }
 
 RibbonColors AdobePhotoshopStyle::ribbonColors() const

@@ -18,10 +18,7 @@ Office2007Style::Theme Office2007Style::theme() const
 
 void Office2007Style::setTheme(Theme theme)
 {
-    if (m_theme == theme)
-        return;
-    m_theme = theme;
-    updateTheme();
+    changeTheme(m_theme, theme);
 }
 
 RibbonColors Office2007Style::ribbonColors() const

@@ -18,10 +18,7 @@ Office2010Style::Theme Office2010Style::theme() const
 
 void Office2010Style::setTheme(Theme theme)
 {
-    if (m_theme == theme)
-        return;
-    m_theme = theme;
-    updateTheme();
+    changeTheme(m_theme, theme);
 }
 
 RibbonColors Office2010Style::ribbonColors() const

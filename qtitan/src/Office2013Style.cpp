@@ -18,10 +18,7 @@ Office2013Style::Theme Office2013Style::theme() const
 
 void Office2013Style::setTheme(Theme theme)
 {
-    if (m_theme == theme)
-        return;
-    m_theme = theme;
-    updateTheme();
+    changeTheme(m_theme, theme);
 }
 
 RibbonColors Office2013Style::ribbonColors() const

@@ -18,10 +18,7 @@ Office2016Style::Theme Office2016Style::theme() const
 
 void Office2016Style::setTheme(Theme theme)
 {
-    if (m_theme == theme)
-        return;
-    m_theme = theme;
-    updateTheme();
+    changeTheme(m_theme, theme);
 }
 
 RibbonColors Office2016Style::ribbonColors() const

@@ -41,6 +41,16 @@ Q_SIGNALS:
 protected:
     /// Re-polishes the application's widgets after a theme change.
     void updateTheme();
+
+    /// Stores a subclass's new theme and, when it differs, updates the widgets.
+    template <typename Theme>
+    void changeTheme(Theme& current, Theme theme)
+    {
+        if (current == theme)
+            return;
+        current = theme;
+        updateTheme();
+    }
 };
 
 } // namespace Qtitan
