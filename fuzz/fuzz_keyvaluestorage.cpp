@@ -1,7 +1,7 @@
 // Arbitrary bytes as a KeyValueStorage byte array: loading must not crash,
 // hang or allocate without bound, and whatever loads must write back and
 // load again.
-#include "KeyValueStorage.h"
+#include <tessaro/KeyValueStorage.h>
 
 #include <QByteArray>
 #include <QDataStream>

@@ -1,6 +1,6 @@
 // Writes valid stores, one value type per file plus one with everything, as
 // the starting corpus of fuzz_keyvaluestorage.
-#include "KeyValueStorage.h"
+#include <tessaro/KeyValueStorage.h>
 
 #include <QBitArray>
 #include <QBrush>

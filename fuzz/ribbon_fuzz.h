@@ -4,8 +4,8 @@
 // identifiers map to (plain, with a menu, a widget action, a popup widget
 // action), so that identifier records reach every branch of the reader.
 
-#include "RibbonBar.h"
-#include "RibbonSerializer.h"
+#include <tessaro/RibbonBar.h>
+#include <tessaro/RibbonSerializer.h>
 
 #include <QAction>
 #include <QApplication>

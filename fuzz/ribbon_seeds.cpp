@@ -5,7 +5,7 @@
 //   ribbon_seeds <dir>   ->  <dir>/layout-raw, layout, quick-raw, quick
 #include "ribbon_fuzz.h"
 
-#include "RibbonControls.h"
+#include <tessaro/RibbonControls.h>
 
 #include <QtitanRibbon.h>
 

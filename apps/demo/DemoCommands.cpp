@@ -6,7 +6,7 @@
 #include "DemoShortcutsDialog.h"
 #include "DemoWindow.h"
 
-#include "CommandsRegistry.h"
+#include <tessaro/CommandsRegistry.h>
 
 #include <QAction>
 #include <QApplication>

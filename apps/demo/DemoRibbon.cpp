@@ -4,7 +4,7 @@
 #include "DemoIcons.h"
 #include "DemoRibbonCommands.h"
 
-#include <RibbonBar.h>
+#include <tessaro/RibbonBar.h>
 
 #include <QtitanRibbon.h>
 

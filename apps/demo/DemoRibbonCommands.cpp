@@ -4,8 +4,8 @@
 #include "DemoIcons.h"
 #include "DemoShortcutsDialog.h"
 
-#include <RibbonBar.h>
-#include <RibbonControls.h>
+#include <tessaro/RibbonBar.h>
+#include <tessaro/RibbonControls.h>
 
 #include <QtitanRibbon.h>
 

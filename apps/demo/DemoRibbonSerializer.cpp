@@ -4,7 +4,7 @@
 #include "DemoSettings.h"
 #include "DemoWindow.h"
 
-#include <RibbonBar.h>
+#include <tessaro/RibbonBar.h>
 
 #include <QAction>
 

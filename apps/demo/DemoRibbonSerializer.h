@@ -1,6 +1,6 @@
 #pragma once
 
-#include <RibbonSerializer.h>
+#include <tessaro/RibbonSerializer.h>
 
 #include <QString>
 

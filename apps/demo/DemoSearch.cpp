@@ -1,6 +1,6 @@
 #include "DemoSearch.h"
 
-#include "QuickSearch.h"
+#include <tessaro/QuickSearch.h>
 
 #include <QtitanRibbon.h>
 

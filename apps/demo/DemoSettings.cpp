@@ -1,6 +1,6 @@
 #include "DemoSettings.h"
 
-#include "KeyValueStorage.h"
+#include <tessaro/KeyValueStorage.h>
 
 #include <QDir>
 #include <QFileInfo>

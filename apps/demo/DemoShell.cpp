@@ -1,6 +1,6 @@
 #include "DemoShell.h"
 
-#include <MenuBar.h>
+#include <tessaro/MenuBar.h>
 
 #include <QAction>
 #include <QEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <MainWindow.h>
+#include <tessaro/MainWindow.h>
 
 #include <QIcon>
 #include <QList>

@@ -4,8 +4,8 @@
 #include "DemoSettings.h"
 #include "DemoWindow.h"
 
-#include <CommandsRegistry.h>
-#include <MenuTreeWidget.h>
+#include <tessaro/CommandsRegistry.h>
+#include <tessaro/MenuTreeWidget.h>
 
 #include <QAction>
 #include <QDialogButtonBox>

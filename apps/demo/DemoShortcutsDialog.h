@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QHotKeyPage.h>
+#include <tessaro/QHotKeyPage.h>
 
 #include <QDialog>
 #include <QVariantMap>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <DynamicMenu.h>
-#include <MainWindow.h>
+#include <tessaro/DynamicMenu.h>
+#include <tessaro/MainWindow.h>
 
 #include <QString>
 

@@ -8,8 +8,8 @@
 #include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
 
-#include "CommandsRegistry.h"
-#include "MdiArea.h"
+#include <tessaro/CommandsRegistry.h>
+#include <tessaro/MdiArea.h>
 
 #include <QAction>
 #include <QApplication>

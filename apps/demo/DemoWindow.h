@@ -3,7 +3,7 @@
 #include "DemoDocks.h"
 #include "DemoShell.h"
 
-#include <MainWindow.h>
+#include <tessaro/MainWindow.h>
 
 #include <memory>
 

@@ -10,9 +10,9 @@
 #include "DemoSettings.h"
 #include "DemoStyles.h"
 
-#include <DockListMenu.h>
-#include <MdiArea.h>
-#include <MenuBar.h>
+#include <tessaro/DockListMenu.h>
+#include <tessaro/MdiArea.h>
+#include <tessaro/MenuBar.h>
 
 #include <QtitanRibbon.h>
 

@@ -4,7 +4,7 @@
 #include "DemoSearch.h"
 #include "DemoShell.h"
 #include "DemoWindow.h"
-#include "QuickSearch.h"
+#include <tessaro/QuickSearch.h>
 
 #include <QApplication>
 #include <QDir>

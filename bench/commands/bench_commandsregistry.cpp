@@ -1,7 +1,7 @@
 // The refresh that runs on every wake-up of the event loop: every action's
 // update handler, found through the range table, against the same handlers
 // called straight from a flat array.
-#include "CommandsRegistry.h"
+#include <tessaro/CommandsRegistry.h>
 
 #include <QAbstractEventDispatcher>
 #include <QAction>

@@ -1,7 +1,7 @@
 // The command tree over a large host menu, beside a QStandardItemModel tree of
 // the same shape shown in a plain QTreeView.
-#include "MenuTreeWidget.h"
-#include "menuTreeModel.h"
+#include <tessaro/MenuTreeWidget.h>
+#include <tessaro/menuTreeModel.h>
 
 #include <QAction>
 #include <QApplication>

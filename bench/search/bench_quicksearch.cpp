@@ -2,7 +2,7 @@
 // Every figure is printed beside a baseline measured in the same run, a plain
 // case-insensitive QString::contains scan over the same path texts.
 
-#include "QuickSearch.h"
+#include <tessaro/QuickSearch.h>
 #include "QuickSearchIndex_p.h"
 
 #include <QAction>

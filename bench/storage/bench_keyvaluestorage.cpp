@@ -1,6 +1,6 @@
 // Loading and saving a store of 10,000 entries, against QDataStream reading
 // and writing the same QMap directly (no checks, no file).
-#include "KeyValueStorage.h"
+#include <tessaro/KeyValueStorage.h>
 
 #include <QBuffer>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "CommandsRegistry.h"
+#include <tessaro/CommandsRegistry.h>
 
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCoreApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "TessaroGlobal.h"
-#include "CommandState.h"
+#include <tessaro/TessaroGlobal.h>
+#include <tessaro/CommandState.h>
 
 #include <QtCore/QList>
 #include <QtCore/QObject>

@@ -1,6 +1,6 @@
-#include "MenuTreeWidget.h"
+#include <tessaro/MenuTreeWidget.h>
 
-#include "menuTreeModel.h"
+#include <tessaro/menuTreeModel.h>
 
 #include <QItemSelectionModel>
 

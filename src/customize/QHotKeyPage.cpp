@@ -1,6 +1,6 @@
-#include "QHotKeyPage.h"
+#include <tessaro/QHotKeyPage.h>
 
-#include "QtKeySequenceEdit.h"
+#include <tessaro/QtKeySequenceEdit.h>
 #include "ui_QHotKeyPage.h"
 
 #include <QAction>

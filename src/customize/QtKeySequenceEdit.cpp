@@ -1,4 +1,4 @@
-#include "QtKeySequenceEdit.h"
+#include <tessaro/QtKeySequenceEdit.h>
 
 #include <QKeyEvent>
 

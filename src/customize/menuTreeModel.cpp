@@ -1,4 +1,4 @@
-#include "menuTreeModel.h"
+#include <tessaro/menuTreeModel.h>
 
 #include "TessaroTranslate_p.h"
 
@@ -193,7 +193,7 @@ QVariant MenuTreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (action->isSeparator())
-            return TESSARO_TR("< Р А З Д Е Л И Т Е Л Ь >");
+            return TESSARO_TR("menuTreeModel.cpp", "< Р А З Д Е Л И Т Е Л Ь >");
         return plainText(action);
     case Qt::DecorationRole:
         return action->icon();

@@ -1,4 +1,4 @@
-#include "DynamicGroupActionHandler.h"
+#include <tessaro/DynamicGroupActionHandler.h>
 
 #include <QtitanRibbon.h>
 

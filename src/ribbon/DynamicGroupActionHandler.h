@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RibbonControls.h"
-#include "TessaroGlobal.h"
+#include <tessaro/RibbonControls.h>
+#include <tessaro/TessaroGlobal.h>
 
 #include <QObject>
 #include <QPointer>

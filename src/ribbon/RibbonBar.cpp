@@ -1,4 +1,4 @@
-#include "RibbonBar.h"
+#include <tessaro/RibbonBar.h>
 
 #include <QAction>
 #include <QContextMenuEvent>

@@ -1,6 +1,6 @@
-#include "RibbonControls.h"
+#include <tessaro/RibbonControls.h>
 
-#include "DynamicGroupActionHandler.h"
+#include <tessaro/DynamicGroupActionHandler.h>
 
 #include <QtitanRibbon.h>
 

@@ -1,7 +1,7 @@
-#include "RibbonSerializer.h"
+#include <tessaro/RibbonSerializer.h>
 
-#include "RibbonBar.h"
-#include "RibbonControls.h"
+#include <tessaro/RibbonBar.h>
+#include <tessaro/RibbonControls.h>
 
 #include <QtitanRibbon.h>
 

@@ -1,4 +1,4 @@
-#include "QuickSearch.h"
+#include <tessaro/QuickSearch.h>
 
 #include "QuickSearchIndex_p.h"
 
@@ -24,7 +24,7 @@ QuickSearchWidget::QuickSearchWidget(QWidget* parent)
     , m_popup(new QMenu(this))
 {
     m_popup->installEventFilter(this);
-    setPlaceholderText(TESSARO_TR("Поиск: Команда (Ctrl + Q)"));
+    setPlaceholderText(TESSARO_TR("QuickSearch.cpp", "Поиск: Команда (Ctrl + Q)"));
     new QShortcut(QKeySequence(Qt::CTRL + Qt::Key_Q), this, SLOT(startEdit()), nullptr,
                   Qt::WindowShortcut);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -8,7 +8,7 @@
 namespace ui {
 
 DockListMenu::DockListMenu(QMainWindow* window)
-    : DynamicMenu(TESSARO_TR("Панели"), window)
+    : DynamicMenu(TESSARO_TR("DockListMenu.cpp", "Панели"), window)
 {
 }
 

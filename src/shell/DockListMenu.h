@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DynamicMenu.h"
+#include <tessaro/DynamicMenu.h>
 
 class QMainWindow;
 

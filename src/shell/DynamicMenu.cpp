@@ -1,4 +1,4 @@
-#include "DynamicMenu.h"
+#include <tessaro/DynamicMenu.h>
 
 namespace ui {
 

@@ -1,4 +1,4 @@
-#include "MdiArea.h"
+#include <tessaro/MdiArea.h>
 
 #include <QtitanRibbon.h>
 

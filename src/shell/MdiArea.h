@@ -1,6 +1,6 @@
 #pragma once
 
-#include "TessaroGlobal.h"
+#include <tessaro/TessaroGlobal.h>
 
 #include <QMdiArea>
 

@@ -1,4 +1,4 @@
-#include "MenuBar.h"
+#include <tessaro/MenuBar.h>
 
 #include <QEvent>
 #include <QHBoxLayout>

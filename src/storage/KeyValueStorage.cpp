@@ -1,4 +1,4 @@
-#include "KeyValueStorage.h"
+#include <tessaro/KeyValueStorage.h>
 
 #include "StoreValidator_p.h"
 

@@ -1,4 +1,4 @@
-#include "CommandsRegistry.h"
+#include <tessaro/CommandsRegistry.h>
 
 #include <QAbstractEventDispatcher>
 #include <QAction>

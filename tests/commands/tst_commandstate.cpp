@@ -1,4 +1,4 @@
-#include "CommandState.h"
+#include <tessaro/CommandState.h>
 
 #include <QAction>
 #include <QtTest>

@@ -1,5 +1,5 @@
-#include "QHotKeyPage.h"
-#include "QtKeySequenceEdit.h"
+#include <tessaro/QHotKeyPage.h>
+#include <tessaro/QtKeySequenceEdit.h>
 
 #include <QAction>
 #include <QApplication>

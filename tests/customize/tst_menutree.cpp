@@ -1,5 +1,5 @@
-#include "MenuTreeWidget.h"
-#include "menuTreeModel.h"
+#include <tessaro/MenuTreeWidget.h>
+#include <tessaro/menuTreeModel.h>
 
 #include <QAbstractItemModelTester>
 #include <QAction>

@@ -6,8 +6,8 @@
 #include "DemoSettings.h"
 #include "DemoWindow.h"
 
-#include "CommandsRegistry.h"
-#include "MenuBar.h"
+#include <tessaro/CommandsRegistry.h>
+#include <tessaro/MenuBar.h>
 
 #include <QAction>
 #include <QApplication>

@@ -3,8 +3,8 @@
 #include "DemoSettings.h"
 #include "DemoWindow.h"
 
-#include <RibbonBar.h>
-#include <RibbonControls.h>
+#include <tessaro/RibbonBar.h>
+#include <tessaro/RibbonControls.h>
 
 #include <QtitanRibbon.h>
 

@@ -5,10 +5,10 @@
 #include "DemoStyles.h"
 #include "DemoWindow.h"
 
-#include <DockListMenu.h>
-#include <MainWindow.h>
-#include <MdiArea.h>
-#include <MenuBar.h>
+#include <tessaro/DockListMenu.h>
+#include <tessaro/MainWindow.h>
+#include <tessaro/MdiArea.h>
+#include <tessaro/MenuBar.h>
 
 #include <QApplication>
 #include <QDockWidget>

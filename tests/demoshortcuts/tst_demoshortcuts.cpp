@@ -3,11 +3,11 @@
 #include "DemoShortcutsDialog.h"
 #include "DemoWindow.h"
 
-#include <CommandsRegistry.h>
+#include <tessaro/CommandsRegistry.h>
 
-#include <KeyValueStorage.h>
-#include <MenuTreeWidget.h>
-#include <QtKeySequenceEdit.h>
+#include <tessaro/KeyValueStorage.h>
+#include <tessaro/MenuTreeWidget.h>
+#include <tessaro/QtKeySequenceEdit.h>
 
 #include <QAction>
 #include <QApplication>

@@ -2,7 +2,7 @@
 // at a wide and a narrow width, and saves PNGs when TESSARO_SCREENSHOT_DIR is set.
 #include <QtitanRibbon.h>
 
-#include "MdiArea.h"
+#include <tessaro/MdiArea.h>
 
 #include <QApplication>
 #include <QComboBox>

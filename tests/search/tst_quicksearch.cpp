@@ -1,5 +1,5 @@
-#include "CommandsRegistry.h"
-#include "QuickSearch.h"
+#include <tessaro/CommandsRegistry.h>
+#include <tessaro/QuickSearch.h>
 
 #include "searchsource.h"
 

@@ -1,4 +1,4 @@
-#include "DockListMenu.h"
+#include <tessaro/DockListMenu.h>
 
 #include <QDockWidget>
 #include <QMainWindow>

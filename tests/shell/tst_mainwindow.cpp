@@ -1,4 +1,4 @@
-#include "MainWindow.h"
+#include <tessaro/MainWindow.h>
 
 #include <QApplication>
 #include <QCloseEvent>
