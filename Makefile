@@ -5,6 +5,7 @@ WERROR     ?= OFF
 JOBS       ?= $(shell nproc)
 CMAKE_ARGS ?=
 SCREENSHOT ?= $(abspath $(BUILD))/tessaro-demo.png
+PREFIX     ?= /usr/local
 
 .PHONY: all deps configure build demo test bench fuzz icons install clean
 

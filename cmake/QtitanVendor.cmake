@@ -12,4 +12,4 @@ set_target_properties(QtitanRibbon PROPERTIES
     IMPORTED_LOCATION "${QTITAN_VENDOR_LIBRARY}"
     INTERFACE_INCLUDE_DIRECTORIES "${QTITAN_VENDOR_INCLUDE_DIR}"
     INTERFACE_LINK_LIBRARIES "Qt5::Widgets")
-add_library(Qtitan::Ribbon ALIAS QtitanRibbon)
+add_library(Tessaro::QtitanRibbon ALIAS QtitanRibbon)
