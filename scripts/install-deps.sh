@@ -3,7 +3,7 @@
 # skipping the step when every one of them is already present.
 set -euo pipefail
 
-packages=(cmake make g++ qtbase5-dev qttools5-dev-tools qttools5-dev xvfb xauth fonts-dejavu-core)
+packages=(cmake make g++ qtbase5-dev qttools5-dev-tools qttools5-dev xvfb xauth fonts-dejavu-core doxygen)
 if [[ "${1:-}" == "--fuzz" ]]; then
     packages+=(clang libclang-rt-14-dev)
 fi

@@ -9,20 +9,6 @@
     </message>
 </context>
 <context>
-    <name>QuickSearch.cpp</name>
-    <message>
-        <source>Поиск: Команда (Ctrl + Q)</source>
-        <translation>Search: Command (Ctrl + Q)</translation>
-    </message>
-</context>
-<context>
-    <name>menuTreeModel.cpp</name>
-    <message>
-        <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
-        <translation>&lt; S E P A R A T O R &gt;</translation>
-    </message>
-</context>
-<context>
     <name>QHotKeyPage</name>
     <message>
         <source>Form</source>
@@ -51,6 +37,20 @@
     <message>
         <source>Удалить</source>
         <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>QuickSearch.cpp</name>
+    <message>
+        <source>Поиск: Команда (Ctrl + Q)</source>
+        <translation>Search: Command (Ctrl + Q)</translation>
+    </message>
+</context>
+<context>
+    <name>menuTreeModel.cpp</name>
+    <message>
+        <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
+        <translation>&lt; S E P A R A T O R &gt;</translation>
     </message>
 </context>
 </TS>

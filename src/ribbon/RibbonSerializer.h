@@ -52,7 +52,9 @@ public:
 
     /// A serializer of @p ribbon (not owned).
     explicit RibbonSerializer(RibbonBar* ribbon);
+    /// A serializer of the same ribbon as @p other.
     RibbonSerializer(const RibbonSerializer& other);
+    /// Makes this a serializer of the same ribbon as @p other.
     RibbonSerializer& operator=(const RibbonSerializer& other);
     virtual ~RibbonSerializer();
 
