@@ -245,6 +245,88 @@ void drawRemove(QPainter& p)
     outline(p, cross, red, redDark);
 }
 
+void drawAddToGroup(QPainter& p)
+{
+    // An arrow carrying a command into the open drop-down menu of a group button.
+    box(p, 12, 1, 19, 9, paper, ink, 1.5);
+    box(p, 14, 3, 5, 5, blue, blueDark);
+    solid(p, 24, 2, 1, 7, grey);
+    QPolygonF drop;
+    drop << QPointF(25.5, 4.5) << QPointF(30, 4.5) << QPointF(27.75, 7);
+    p.setPen(Qt::NoPen);
+    p.setBrush(ink);
+    p.drawPolygon(drop);
+    box(p, 12, 9, 19, 21, paper, ink);
+    solid(p, 16, 12, 11, 2, grey);
+    solid(p, 13, 16, 17, 5, blueLight);
+    solid(p, 18, 17, 9, 3, blue);
+    solid(p, 16, 24, 11, 2, grey);
+    QPainterPath arrow;
+    arrow.moveTo(1.5, 16.5);
+    arrow.lineTo(8.5, 16.5);
+    arrow.lineTo(8.5, 12.5);
+    arrow.lineTo(16.5, 18.5);
+    arrow.lineTo(8.5, 24.5);
+    arrow.lineTo(8.5, 20.5);
+    arrow.lineTo(1.5, 20.5);
+    arrow.closeSubpath();
+    outline(p, arrow, green, greenDark);
+}
+
+// A classic toolbar across the top half: a grip and three buttons.
+void toolBarStrip(QPainter& p)
+{
+    box(p, 1, 3, 30, 13, paperShade, ink, 1.5);
+    for (int y = 6; y <= 12; y += 2)
+        solid(p, 3, y, 2, 1, grey);
+    box(p, 7, 6, 7, 7, blue, blueDark);
+    box(p, 15, 6, 7, 7, teal, teal.darker(135));
+    box(p, 23, 6, 6, 7, orange, orange.darker(135));
+}
+
+void drawAddToolBar(QPainter& p)
+{
+    toolBarStrip(p);
+    addBadge(p);
+}
+
+void drawRemoveToolBar(QPainter& p)
+{
+    // The strip with a red "minus" disc where the add mark sits.
+    toolBarStrip(p);
+    p.setPen(Qt::NoPen);
+    p.setBrush(paper);
+    p.drawEllipse(QRectF(15, 15, 17, 17));
+    p.setPen(QPen(redDark, 1.0));
+    p.setBrush(red);
+    p.drawEllipse(QRectF(16.5, 16.5, 14, 14));
+    solid(p, 19, 22, 9, 3, paper);
+}
+
+void drawRenameToolBar(QPainter& p)
+{
+    // The strip above a title field, with a pencil writing in it.
+    toolBarStrip(p);
+    box(p, 1, 19, 22, 10, paper, ink);
+    solid(p, 4, 23, 9, 2, ink);
+    solid(p, 14, 21, 1, 6, blueDark);
+    QTransform pencil;
+    pencil.translate(22.5, 24.5);
+    pencil.rotate(135);
+    QPainterPath body;
+    body.addRect(QRectF(-7, -2.5, 10, 5));
+    outline(p, pencil.map(body), orange, orange.darker(150));
+    QPainterPath eraser;
+    eraser.addRect(QRectF(-9, -2.5, 2, 5));
+    outline(p, pencil.map(eraser), red, redDark);
+    QPainterPath tip;
+    tip.moveTo(3, -2.5);
+    tip.lineTo(7, 0);
+    tip.lineTo(3, 2.5);
+    tip.closeSubpath();
+    outline(p, pencil.map(tip), QColor(0xf3, 0xd9, 0xb1), ink);
+}
+
 struct Icon
 {
     const char* file;
@@ -323,6 +405,10 @@ int main(int argc, char* argv[])
         {"1uparrow.png", drawUp},
         {"1downarrow.png", drawDown},
         {"1remove.png", drawRemove},
+        {"add-to-group.png", drawAddToGroup},
+        {"add-toolbar.png", drawAddToolBar},
+        {"remove-toolbar.png", drawRemoveToolBar},
+        {"rename-toolbar.png", drawRenameToolBar},
     };
 
     std::vector<QImage> images;
