@@ -40,6 +40,88 @@
     </message>
 </context>
 <context>
+    <name>QToolBarPage</name>
+    <message>
+        <source>Панели инструментов</source>
+        <translation>Toolbars</translation>
+    </message>
+    <message>
+        <source>Панели инструментов:</source>
+        <translation>Toolbars:</translation>
+    </message>
+    <message>
+        <source>Добавить панель инструментов</source>
+        <translation>Add a toolbar</translation>
+    </message>
+    <message>
+        <source>Удалить панель инструментов</source>
+        <translation>Delete the toolbar</translation>
+    </message>
+    <message>
+        <source>Переименовать панель инструментов</source>
+        <translation>Rename the toolbar</translation>
+    </message>
+    <message>
+        <source>Содержимое панели:</source>
+        <translation>Toolbar contents:</translation>
+    </message>
+    <message>
+        <source>Добавить команду на панель</source>
+        <translation>Add the command to the toolbar</translation>
+    </message>
+    <message>
+        <source>Добавить команду в группу</source>
+        <translation>Add the command to the group</translation>
+    </message>
+    <message>
+        <source>Убрать с панели</source>
+        <translation>Remove from the toolbar</translation>
+    </message>
+    <message>
+        <source>Добавить группу команд</source>
+        <translation>Add a command group</translation>
+    </message>
+    <message>
+        <source>Добавить разделитель</source>
+        <translation>Add a separator</translation>
+    </message>
+    <message>
+        <source>Переместить вверх</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>Переместить вниз</source>
+        <translation>Move down</translation>
+    </message>
+</context>
+<context>
+    <name>QToolBarPage.cpp</name>
+    <message>
+        <source>Группа команд</source>
+        <translation>Command group</translation>
+    </message>
+    <message>
+        <source>Только иконка</source>
+        <translation>Icon only</translation>
+    </message>
+    <message>
+        <source>Только текст</source>
+        <translation>Text only</translation>
+    </message>
+    <message>
+        <source>Текст возле иконки</source>
+        <translation>Text beside the icon</translation>
+    </message>
+    <message>
+        <source>Текст под иконкой</source>
+        <translation>Text under the icon</translation>
+    </message>
+    <message>
+        <source>По умолчанию</source>
+        <translation>Default</translation>
+    </message>
+</context>
+<context>
     <name>QuickSearch.cpp</name>
     <message>
         <source>Поиск: Команда (Ctrl + Q)</source>

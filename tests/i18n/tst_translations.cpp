@@ -1,10 +1,16 @@
 #include <tessaro/Tessaro.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
+#include <QTreeWidget>
 #include <QTranslator>
 #include <QtTest>
 
@@ -54,6 +60,47 @@ private slots:
         auto* label = page.findChild<QLabel*>(QStringLiteral("label_5"));
         QVERIFY(label);
         QCOMPARE(label->text(), QStringLiteral("Current combinations"));
+    }
+
+    void toolBarPageTexts()
+    {
+        QMainWindow host;
+        QToolBar* toolBar = host.addToolBar(QStringLiteral("Main"));
+        QAction* command = toolBar->addAction(QStringLiteral("Open"));
+        ui::QToolBarPage page;
+        page.setToolBars({toolBar});
+        page.findChild<QListWidget*>(QStringLiteral("toolBarList"))->setCurrentRow(0);
+
+        auto* addGroup = page.findChild<QToolButton*>(QStringLiteral("addGroupButton"));
+        QVERIFY(addGroup);
+        QCOMPARE(addGroup->toolTip(), QStringLiteral("Add a command group"));
+        auto* label = page.findChild<QLabel*>(QStringLiteral("toolBarLabel"));
+        QVERIFY(label);
+        QCOMPARE(label->text(), QStringLiteral("Toolbars:"));
+
+        addGroup->click();
+        auto* tree = page.findChild<QTreeWidget*>(QStringLiteral("contentsTree"));
+        // Nothing was selected, so the group comes first.
+        QCOMPARE(tree->topLevelItem(0)->text(0), QStringLiteral("Command group"));
+        // The page still knows the translated group row as a group.
+        page.setCurrentCommand(new QAction(QStringLiteral("Save"), &page));
+        page.findChild<QToolButton*>(QStringLiteral("addActionToGroupButton"))->click();
+        QCOMPARE(tree->topLevelItem(0)->childCount(), 1);
+
+        tree->setCurrentItem(tree->topLevelItem(1));
+        QStringList entries;
+        QTimer::singleShot(0, [&] {
+            if (auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                for (const QAction* entry : popup->actions())
+                    entries << entry->text();
+                popup->close();
+            }
+        });
+        page.onContextMenu(tree->visualItemRect(tree->topLevelItem(1)).center());
+        QCOMPARE(entries, (QStringList{QStringLiteral("Icon only"), QStringLiteral("Text only"),
+                                       QStringLiteral("Text beside the icon"), QStringLiteral("Text under the icon"),
+                                       QStringLiteral("Default")}));
+        QVERIFY(toolBar->actions().contains(command));
     }
 
     void untranslatedWithoutTranslator()
