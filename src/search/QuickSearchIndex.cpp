@@ -38,13 +38,30 @@ void QuickSearchIndex::append(QAction* proxy)
 {
     Entry entry;
     entry.proxy = proxy;
-    entry.path = proxy->text();
-    // The parts are those of a left-to-right split at " → ", as the ranking defines them.
-    const QStringList parts = entry.path.split(QStringLiteral(" %1 ").arg(pathArrow));
-    entry.firstEnd = parts.first().size();
-    entry.lastStart = entry.path.size() - parts.last().size();
-    entry.folds = foldUnits(entry.path, &entry.folded);
+    readPath(entry, proxy->text());
     m_entries.append(entry);
+}
+
+void QuickSearchIndex::readPath(Entry& entry, const QString& path)
+{
+    entry.path = path;
+    // The parts are those of a left-to-right split at " → ", as the ranking defines them.
+    const QStringList parts = path.split(QStringLiteral(" %1 ").arg(pathArrow));
+    entry.firstEnd = parts.first().size();
+    entry.lastStart = path.size() - parts.last().size();
+    entry.folds = foldUnits(path, &entry.folded);
+}
+
+// The popup shows the commands' live state, and the registry makes an action
+// checkable only on its first refresh, which may come after the entry was made.
+void QuickSearchIndex::copyLiveState(QAction* proxy)
+{
+    auto* real = qobject_cast<QAction*>(proxy->parent());
+    if (!real)
+        return;
+    proxy->setEnabled(real->isEnabled());
+    proxy->setCheckable(real->isCheckable());
+    proxy->setChecked(real->isChecked());
 }
 
 // Ranks of a surviving entry: 3 when the command's name starts with a word,
@@ -97,7 +114,7 @@ int QuickSearchIndex::rankCaseInsensitive(const Entry& entry, const QStringList&
     return rank;
 }
 
-QList<QAction*> QuickSearchIndex::match(const QStringList& words) const
+QList<QAction*> QuickSearchIndex::match(const QStringList& words)
 {
     QStringList foldedWords;
     bool foldedQuery = true;
@@ -108,22 +125,18 @@ QList<QAction*> QuickSearchIndex::match(const QStringList& words) const
     }
 
     QVector<QAction*> ranked[4];
-    for (const Entry& entry : m_entries) {
+    for (Entry& entry : m_entries) {
         QAction* proxy = entry.proxy.data();
         if (!proxy)
             continue;
+        copyLiveState(proxy);
+        const QString path = proxy->text();
+        if (path != entry.path)
+            readPath(entry, path);
         const int rank = foldedQuery && entry.folds ? rankFolded(entry, foldedWords)
-                                                               : rankCaseInsensitive(entry, words);
-        if (rank < 0)
-            continue;
-        if (auto* real = qobject_cast<QAction*>(proxy->parent())) {
-            proxy->setEnabled(real->isEnabled());
-            // The registry makes an action checkable on its first refresh,
-            // which may come after the entry was made.
-            proxy->setCheckable(real->isCheckable());
-            proxy->setChecked(real->isChecked());
-        }
-        ranked[rank].append(proxy);
+                                                    : rankCaseInsensitive(entry, words);
+        if (rank >= 0)
+            ranked[rank].append(proxy);
     }
 
     QList<QAction*> results;

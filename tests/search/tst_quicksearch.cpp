@@ -123,6 +123,8 @@ private Q_SLOTS:
     void matchesPlainRulesOnMixedScripts();
 
     void liveStateCopied();
+    void liveStateCopiedOntoEveryProxy();
+    void pathPartsFromProxyCurrentText();
     void deletedRealActionDropsItsEntry();
     void setSourceReplacesEntries();
     void destroyingBoxKeepsProxies();
@@ -582,6 +584,77 @@ void tst_QuickSearch::liveStateCopied()
     QVERIFY(popupAction(box, shown("File/Open"))->isEnabled());
     type(box, "view");
     QVERIFY(!popupAction(box, shown("View/Word wrap"))->isChecked());
+}
+
+// Every live proxy takes its command's state before the matching, also the
+// ones that do not match.
+void tst_QuickSearch::liveStateCopiedOntoEveryProxy()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    QAction* ruler = source.add("View/Ruler");
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+    QAction* openProxy = open->findChild<QAction*>();
+    QAction* rulerProxy = ruler->findChild<QAction*>();
+    QVERIFY(openProxy && rulerProxy);
+
+    open->setEnabled(false);
+    ruler->setCheckable(true);
+    ruler->setChecked(true);
+    type(box, "ope");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open"}));
+    QVERIFY(rulerProxy->isCheckable());
+    QVERIFY(rulerProxy->isChecked());
+
+    type(box, "rul");
+    QCOMPARE(popupTexts(box), shown(QStringList{"View/Ruler"}));
+    QVERIFY(!openProxy->isEnabled());
+
+    // A query that matches nothing refreshes them all the same.
+    open->setEnabled(true);
+    ruler->setChecked(false);
+    type(box, "nothing");
+    QVERIFY(!popupOf(box)->isVisible());
+    QVERIFY(openProxy->isEnabled());
+    QVERIFY(!rulerProxy->isChecked());
+}
+
+// The path parts are those of the proxy's text at the time of the search.
+void tst_QuickSearch::pathPartsFromProxyCurrentText()
+{
+    SearchSource source;
+    source.add("Links/Manage");
+    QAction* open = source.add("File/Open");
+    QAction* close = source.add("File/Close");
+    source.add("Tools/Links editor");
+    QuickSearchWidget box(nullptr);
+    box.setSource(source.actions());
+    QAction* openProxy = open->findChild<QAction*>();
+    QAction* closeProxy = close->findChild<QAction*>();
+    QVERIFY(openProxy && closeProxy);
+
+    type(box, "clo");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Close"}));
+
+    closeProxy->setText(shown(QStringLiteral("Edit/Links/Open link")));
+    type(box, "clo");
+    QVERIFY(!popupOf(box)->isVisible());
+    type(box, "open");
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "Edit/Links/Open link"}));
+    // Name first (3), then the middle title (1), then the top title (0).
+    type(box, "links");
+    QCOMPARE(popupTexts(box), shown(QStringList{"Tools/Links editor", "Edit/Links/Open link", "Links/Manage"}));
+
+    // A text of one part is the command's name and the top title at once.
+    closeProxy->setText(QStringLiteral("Linkset"));
+    openProxy->setText(shown(QStringLiteral("A/Linkset/Open")));
+    type(box, "linkset");
+    QCOMPARE(popupTexts(box), (QStringList{QStringLiteral("Linkset"), shown(QStringLiteral("A/Linkset/Open"))}));
+    type(box, "ope linkset");
+    QCOMPARE(popupTexts(box), shown(QStringList{"A/Linkset/Open"}));
+    type(box, "set");
+    QCOMPARE(popupTexts(box), (QStringList{QStringLiteral("Linkset"), shown(QStringLiteral("A/Linkset/Open"))}));
 }
 
 void tst_QuickSearch::deletedRealActionDropsItsEntry()
