@@ -29,6 +29,8 @@ QuickSearchWidget::QuickSearchWidget(QWidget* parent)
                   Qt::WindowShortcut);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::textEdited, this, &QuickSearchWidget::showResultPopup);
+    // The query has served once its command ran.
+    connect(m_popup, &QMenu::triggered, this, &QLineEdit::clear);
 }
 
 QuickSearchWidget::~QuickSearchWidget() = default;
@@ -78,6 +80,8 @@ void QuickSearchWidget::showResultPopup()
     QPoint topLeft = mapToGlobal(QPoint(0, 0));
     topLeft.ry() -= m_popup->height();
     m_popup->popup(topLeft);
+    // Return runs the best match straight away.
+    m_popup->setActiveAction(results.first());
 }
 
 // Makes the popup hold exactly the given actions. The entries it already
@@ -124,6 +128,17 @@ bool QuickSearchWidget::eventFilter(QObject* watched, QEvent* event)
         }
     }
     return false;
+}
+
+void QuickSearchWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape || (text().isEmpty() && !m_popup->isVisible())) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    m_popup->close();
+    clear();
+    event->accept();
 }
 
 void QuickSearchWidget::mousePressEvent(QMouseEvent* event)

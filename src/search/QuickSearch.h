@@ -21,6 +21,11 @@ class QuickSearchIndex;
 /// choosing an entry triggers the command's real action. Ctrl+Q anywhere in the
 /// box's window moves the focus into the box.
 ///
+/// The popup opens with its first entry (the best match) active, so Return
+/// right after typing runs it. Once an entry has run, the box is cleared.
+/// Escape clears the box and closes the popup; in an empty box without a
+/// popup it is left to the parent, as a line edit leaves it.
+///
 /// For every searchable command the widget makes a proxy action that is a child
 /// of the real action, so an entry disappears by itself when its command dies.
 class TESSARO_EXPORT QuickSearchWidget : public QLineEdit
@@ -50,6 +55,8 @@ public:
 protected:
     /// A left-button press shows the results for the current text first.
     void mousePressEvent(QMouseEvent* event) override;
+    /// Escape clears the box and closes the popup; other keys edit as usual.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private Q_SLOTS:
     void showResultPopup();

@@ -84,6 +84,43 @@ void type(QuickSearchWidget& box, const QString& query)
     QTest::keyClicks(&box, query);
 }
 
+// Types the query into a shown box the way the keyboard delivers it: each key
+// goes to the open popup if there is one (it grabs the keyboard), else to the
+// focus widget.
+void typeAsUser(const QString& query)
+{
+    for (const QChar c : query)
+        QTest::keyClick(static_cast<QWidget*>(nullptr), c.toLatin1());
+}
+
+// A shown, active window holding a focused box over the given source.
+struct BoxWindow
+{
+    QWidget window;
+    QuickSearchWidget* box;
+
+    explicit BoxWindow(const QList<QAction*>& actions)
+        : box(new QuickSearchWidget(&window))
+    {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addStretch();
+        layout->addWidget(box);
+        box->setSource(actions);
+        const QRect screen = QGuiApplication::primaryScreen()->geometry();
+        window.setGeometry(screen.left() + 60, screen.top() + screen.height() / 2, 300, 100);
+    }
+
+    bool showFocused()
+    {
+        window.show();
+        QApplication::setActiveWindow(&window);
+        if (!QTest::qWaitForWindowActive(&window))
+            return false;
+        box->setFocus();
+        return QTest::qWaitFor([this] { return box->hasFocus(); });
+    }
+};
+
 QAction* popupAction(QuickSearchWidget& box, const QString& text)
 {
     for (QAction* action : popupOf(box)->actions()) {
@@ -134,8 +171,12 @@ private Q_SLOTS:
     void registryStateShownInPopup();
     void typingOnPopupContinues();
     void navigationKeysStayWithPopup();
-    void reopenedPopupHasNoActiveEntry();
+    void popupOpensWithFirstEntryActive();
+    void returnAfterTypingRunsBestMatch();
+    void boxClearedAfterEntryRuns();
     void escapeReachesBoxAndMenu();
+    void escapeInBoxClearsItAndClosesPopup();
+    void escapeInEmptyBoxGoesToParent();
     void leftClickShowsResults();
     void popupStandsAboveBox();
     void ctrlQFocusesBox();
@@ -739,6 +780,8 @@ void tst_QuickSearch::choosingEntryTriggersRealAction()
     QMenu* popup = popupOf(box);
     QVERIFY(popup->isVisible());
     QTest::keyClick(popup, Qt::Key_Down);
+    QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open recent")));
+    QTest::keyClick(popup, Qt::Key_Up);
     QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open")));
     QTest::keyClick(popup, Qt::Key_Return);
     QCOMPARE(triggered.count(), 1);
@@ -772,7 +815,6 @@ void tst_QuickSearch::choosingEntryRunsCommandThroughRegistry()
         QMenu* popup = popupOf(box);
         QVERIFY(popup->isVisible());
         QCOMPARE(popup->actions().size(), 1);
-        QTest::keyClick(popup, Qt::Key_Down);
         QTest::keyClick(popup, Qt::Key_Return);
     };
 
@@ -873,40 +915,111 @@ void tst_QuickSearch::navigationKeysStayWithPopup()
     QTest::keyClick(popup, Qt::Key_Down);
     QTest::keyClick(popup, Qt::Key_Up);
     QCOMPARE(box.keys, QList<int>());
-    QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open")));
+    QCOMPARE(popup->activeAction()->text(), shown(QStringLiteral("File/Open recent")));
 
     QTest::keyClick(popup, Qt::Key_Enter);
     QTest::keyClick(popup, Qt::Key_Return);
     QCOMPARE(box.keys, QList<int>());
     QCOMPARE(returnPressed.count(), 0);
     QCOMPARE(edited.count(), 0);
-    QCOMPARE(box.text(), QStringLiteral("open"));
 }
 
-void tst_QuickSearch::reopenedPopupHasNoActiveEntry()
+void tst_QuickSearch::popupOpensWithFirstEntryActive()
 {
     SearchSource source;
-    source.addAll({"File/Open", "File/Open recent", "Edit/Copy"});
+    source.addAll({"Edit/Reopen", "File/Open", "File/Open recent", "Edit/Copy"});
     QuickSearchWidget box(nullptr);
     box.setSource(source.actions());
 
     type(box, "open");
     QMenu* popup = popupOf(box);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(popupTexts(box), shown(QStringList{"File/Open", "File/Open recent", "Edit/Reopen"}));
+    QCOMPARE(popup->activeAction(), popup->actions().first());
+
+    // Moved elsewhere, then a key that leaves the results as they are: the
+    // popup opens again on its first entry.
     const QList<QAction*> before = popup->actions();
     QTest::keyClick(popup, Qt::Key_Down);
-    QVERIFY(popup->activeAction());
-
-    // A blank changes no result: the same entries come back, none of them active.
+    QTest::keyClick(popup, Qt::Key_Down);
+    QCOMPARE(popup->activeAction(), before.at(2));
     QTest::keyClick(popup, ' ');
     QCOMPARE(box.text(), QStringLiteral("open "));
     QVERIFY(popup->isVisible());
     QCOMPARE(popup->actions(), before);
-    QVERIFY(!popup->activeAction());
+    QCOMPARE(popup->activeAction(), before.first());
 
-    QTest::keyClick(popup, Qt::Key_Down);
-    QTest::keyClick(popup, 'r');
+    // A key that changes the results: the new best match is active.
+    QTest::keyClick(popup, 'c');
     QCOMPARE(popupTexts(box), shown(QStringList{"File/Open recent"}));
-    QVERIFY(!popup->activeAction());
+    QCOMPARE(popup->activeAction(), popup->actions().first());
+}
+
+// Typing and Return, nothing else: the best match runs.
+void tst_QuickSearch::returnAfterTypingRunsBestMatch()
+{
+    SearchSource source;
+    QAction* reopen = source.add("Edit/Reopen");
+    QAction* open = source.add("File/Open");
+    BoxWindow w(source.actions());
+    QVERIFY(w.showFocused());
+    QSignalSpy openRan(open, &QAction::triggered);
+    QSignalSpy reopenRan(reopen, &QAction::triggered);
+
+    typeAsUser(QStringLiteral("open"));
+    QMenu* popup = popupOf(*w.box);
+    QVERIFY(popup->isVisible());
+    QCOMPARE(QApplication::activePopupWidget(), static_cast<QWidget*>(popup));
+    QCOMPARE(w.box->text(), QStringLiteral("open"));
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Return);
+    QCOMPARE(openRan.count(), 1);
+    QCOMPARE(reopenRan.count(), 0);
+    QVERIFY(!popup->isVisible());
+
+    // Enter does the same.
+    typeAsUser(QStringLiteral("reo"));
+    QVERIFY(popup->isVisible());
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Enter);
+    QCOMPARE(reopenRan.count(), 1);
+    QCOMPARE(openRan.count(), 1);
+}
+
+void tst_QuickSearch::boxClearedAfterEntryRuns()
+{
+    SearchSource source;
+    QAction* open = source.add("File/Open");
+    source.add("File/Open recent");
+    BoxWindow w(source.actions());
+    QVERIFY(w.showFocused());
+    QSignalSpy ran(open, &QAction::triggered);
+    QSignalSpy edited(w.box, &QLineEdit::textEdited);
+
+    // Chosen with the keyboard.
+    typeAsUser(QStringLiteral("open"));
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Return);
+    QCOMPARE(ran.count(), 1);
+    QVERIFY(w.box->text().isEmpty());
+    QVERIFY(!popupOf(*w.box)->isVisible());
+
+    // Chosen with the mouse.
+    typeAsUser(QStringLiteral("open"));
+    QMenu* popup = popupOf(*w.box);
+    QVERIFY(popup->isVisible());
+    edited.clear();
+    QAction* entry = popupAction(*w.box, shown(QStringLiteral("File/Open")));
+    QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(entry).center());
+    QCOMPARE(ran.count(), 2);
+    QVERIFY(w.box->text().isEmpty());
+    // Clearing is not an edit: no new search starts.
+    QCOMPARE(edited.count(), 0);
+    QVERIFY(!popup->isVisible());
+
+    // Closing the popup without choosing keeps the text.
+    typeAsUser(QStringLiteral("open"));
+    QVERIFY(popup->isVisible());
+    popup->close();
+    QCOMPARE(w.box->text(), QStringLiteral("open"));
+    QCOMPARE(ran.count(), 2);
 }
 
 void tst_QuickSearch::escapeReachesBoxAndMenu()
@@ -923,6 +1036,65 @@ void tst_QuickSearch::escapeReachesBoxAndMenu()
     QTest::keyClick(popup, Qt::Key_Escape);
     QCOMPARE(box.keys, QList<int>{Qt::Key_Escape});
     QVERIFY(!popup->isVisible());
+}
+
+void tst_QuickSearch::escapeInBoxClearsItAndClosesPopup()
+{
+    SearchSource source;
+    source.addAll({"File/Open", "File/Open recent"});
+    BoxWindow w(source.actions());
+    QVERIFY(w.showFocused());
+    QMenu* popup = popupOf(*w.box);
+
+    // With the popup open (it holds the keyboard).
+    typeAsUser(QStringLiteral("open"));
+    QVERIFY(popup->isVisible());
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Escape);
+    QVERIFY(!popup->isVisible());
+    QVERIFY(w.box->text().isEmpty());
+    QVERIFY(w.box->hasFocus());
+
+    // Straight in the box, popup closed: the text goes.
+    typeAsUser(QStringLiteral("op"));
+    QVERIFY(!popup->isVisible());
+    QCOMPARE(w.box->text(), QStringLiteral("op"));
+    QTest::keyClick(w.box, Qt::Key_Escape);
+    QVERIFY(w.box->text().isEmpty());
+
+    // Straight in the box while the popup is open (a box driven by code).
+    w.box->setText(QStringLiteral("open"));
+    QTest::mousePress(w.box, Qt::LeftButton, {}, QPoint(5, 5));
+    QVERIFY(popup->isVisible());
+    QTest::keyClick(w.box, Qt::Key_Escape);
+    QVERIFY(!popup->isVisible());
+    QVERIFY(w.box->text().isEmpty());
+}
+
+// Nothing to clear: Escape goes on to the parent, as a line edit's does (a
+// dialog then closes).
+void tst_QuickSearch::escapeInEmptyBoxGoesToParent()
+{
+    class EscapeCounter : public QWidget
+    {
+    public:
+        int escapes = 0;
+
+    protected:
+        void keyPressEvent(QKeyEvent* event) override
+        {
+            escapes += event->key() == Qt::Key_Escape;
+            QWidget::keyPressEvent(event);
+        }
+    };
+
+    EscapeCounter parent;
+    auto* box = new QuickSearchWidget(&parent);
+    box->setText(QStringLiteral("op"));
+    QTest::keyClick(box, Qt::Key_Escape);
+    QVERIFY(box->text().isEmpty());
+    QCOMPARE(parent.escapes, 0);
+    QTest::keyClick(box, Qt::Key_Escape);
+    QCOMPARE(parent.escapes, 1);
 }
 
 void tst_QuickSearch::leftClickShowsResults()
