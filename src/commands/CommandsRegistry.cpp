@@ -3,6 +3,7 @@
 #include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QVariant>
 #include <QtWidgets/QAction>
 
@@ -133,21 +134,41 @@ void CommandsRegistry::removeCommand(int id)
     QAction* action = getCommandAction(id);
     if (!action)
         return;
-    m_actions.removeAll(action);
+    for (int i = m_actions.size() - 1; i >= 0; --i) {
+        if (m_actions.at(i) == action)
+            takeActionAt(i);
+    }
     QObject::disconnect(action, nullptr, this, nullptr);
+}
+
+void CommandsRegistry::takeActionAt(int index)
+{
+    m_actions.removeAt(index);
+    for (int* position : m_passPositions) {
+        if (index <= *position)
+            --*position;
+    }
 }
 
 void CommandsRegistry::clearCommands()
 {
-    QList<QAction*> kept;
-    for (QAction* action : qAsConst(m_actions)) {
+    const QList<QAction*> listed = m_actions;
+    m_actions.clear();
+    // keptThrough[i]: how many of the first i + 1 listed actions stay.
+    std::vector<int> keptThrough(listed.size());
+    for (int i = 0; i < listed.size(); ++i) {
+        QAction* action = listed.at(i);
         // The mark's presence counts, not its value.
         if (action->property(persistentProperty).isValid())
-            kept.append(action);
+            m_actions.append(action);
         else
             action->deleteLater();
+        keptThrough[i] = m_actions.size();
     }
-    m_actions = kept;
+    for (int* position : m_passPositions) {
+        if (*position >= 0)
+            *position = keptThrough[*position] - 1;
+    }
 }
 
 void CommandsRegistry::RunCommand(int id)
@@ -221,10 +242,14 @@ void CommandsRegistry::onCommand()
 
 void CommandsRegistry::onUpdateUI()
 {
-    // Indexed on the live list: a handler may add, remove or clear commands
-    // while we walk, and cleared actions are only deleted later.
-    for (int i = 0; i < m_actions.size(); ++i)
-        updateAction(m_actions.at(i));
+    // Indexed on the live list, so that commands added by a handler are
+    // refreshed too; removals move the position back (takeActionAt(),
+    // clearCommands()). Cleared actions are only deleted later.
+    int position = 0;
+    m_passPositions.push_back(&position);
+    const auto passDone = qScopeGuard([this] { m_passPositions.pop_back(); });
+    for (; position < m_actions.size(); ++position)
+        updateAction(m_actions.at(position));
 }
 
 } // namespace ui

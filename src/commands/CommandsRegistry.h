@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <map>
+#include <vector>
 
 class QAction;
 
@@ -21,6 +22,17 @@ namespace ui {
 /// keyed by id ranges. Triggering an action runs its command; every wake-up of
 /// the event loop refreshes every action through its update handler. Ids below
 /// 1 are never run or refreshed.
+///
+/// A refresh pass walks the action list in order and refreshes each action
+/// once. An update handler may change the list while the pass runs:
+/// - a command removed during the pass (removeCommand(), clearCommands()) is
+///   not refreshed after its removal;
+/// - a command added during the pass is appended to the list and refreshed in
+///   that same pass, after the commands that were listed before it;
+/// - every other command is refreshed exactly once: none is skipped or
+///   repeated because the list changed around it.
+/// A handler that lets the event loop run starts a nested pass of its own; the
+/// outer pass then goes on by the same rules.
 ///
 /// Create the registry on the GUI thread after the QApplication: it connects to
 /// the awake() signal of the thread's event dispatcher.
@@ -63,8 +75,10 @@ public:
 
     /// Takes the first action with \a id out of the action list and disconnects
     /// it from the registry. The action is not deleted and the handlers stay.
+    /// Safe in an update handler: see the class notes on refresh passes.
     void removeCommand(int id);
-    /// Deletes (later) every action without a \c persistent property. Handlers stay.
+    /// Deletes (later) every action without a \c persistent property. Handlers
+    /// stay. Safe in an update handler: see the class notes on refresh passes.
     void clearCommands();
 
     /// Runs the handler of \a id now, on the calling thread. Ids below 1 and ids
@@ -110,9 +124,14 @@ private:
     template <typename Table>
     static typename Table::iterator lookup(Table& table, int id);
 
+    void takeActionAt(int index);
+
     std::map<Range, CommandHandler> m_commands;
     std::map<Range, UpdateHandler> m_updates;
     QList<QAction*> m_actions;
+    // Where each running refresh pass stands in m_actions (innermost last);
+    // removals move them back so that no action is skipped or repeated.
+    std::vector<int*> m_passPositions;
 };
 
 } // namespace ui

@@ -36,6 +36,31 @@ void emitAwake()
     QVERIFY(QMetaObject::invokeMethod(QAbstractEventDispatcher::instance(), "awake", Qt::DirectConnection));
 }
 
+// A registry of commands 1..n whose update handler records the order of the
+// refresh and runs the hook set for an id, if any.
+struct RecordedPass
+{
+    Registry registry{nullptr};
+    QList<int> order;
+    QHash<int, std::function<void()>> hooks;
+
+    explicit RecordedPass(const QList<bool>& persistent = {false, false, false, false, false})
+    {
+        for (int id = 1; id <= persistent.size(); ++id) {
+            const QString text = QString::number(id);
+            if (persistent.at(id - 1))
+                registry.addPersistentCommand(text, id);
+            else
+                registry.addCommand(text, id);
+        }
+        registry.ConnectCommandUI(1, 100, [this](int id, ui::CommandState&) {
+            order << id;
+            if (const std::function<void()> hook = hooks.value(id))
+                hook();
+        });
+    }
+};
+
 } // namespace
 
 class tst_CommandsRegistry : public QObject
@@ -478,6 +503,87 @@ private slots:
         QCOMPARE(updated, 1);
         QCOMPARE(registry.getActions().size(), 0);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    // A handler that removes its own command: the pass goes on with the next
+    // one, and the removed command is not refreshed again.
+    void refreshPassSurvivesSelfRemoval()
+    {
+        RecordedPass pass;
+        pass.hooks[2] = [&pass] { pass.registry.removeCommand(2); };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 4, 5}));
+        pass.order.clear();
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 3, 4, 5}));
+    }
+
+    void refreshPassSkipsNothingWhenEarlierCommandRemoved()
+    {
+        RecordedPass pass;
+        pass.hooks[3] = [&pass] { pass.registry.removeCommand(1); };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 4, 5}));
+    }
+
+    void refreshPassDropsLaterCommandRemoved()
+    {
+        RecordedPass pass;
+        pass.hooks[2] = [&pass] { pass.registry.removeCommand(4); };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 5}));
+    }
+
+    // clearCommands() in the middle of a pass: the persistent commands after
+    // the handler are still refreshed, the cleared ones are not.
+    void refreshPassAfterClearingKeepsPersistentCommands()
+    {
+        RecordedPass pass({false, true, false, true, false, true});
+        pass.hooks[3] = [&pass] { pass.registry.clearCommands(); };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 4, 6}));
+        pass.order.clear();
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{2, 4, 6}));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    // Commands added during a pass are appended, and refreshed in that same
+    // pass after the commands that were already listed.
+    void refreshPassIncludesCommandsAddedDuringIt()
+    {
+        RecordedPass pass;
+        pass.hooks[2] = [&pass] {
+            pass.registry.addCommand(QStringLiteral("6"), 6);
+            pass.hooks.remove(2);
+        };
+        pass.hooks[4] = [&pass] {
+            pass.registry.removeCommand(4);
+            pass.registry.addCommand(QStringLiteral("7"), 7);
+            pass.hooks.remove(4);
+        };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 4, 5, 6, 7}));
+        pass.order.clear();
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 3, 5, 6, 7}));
+    }
+
+    // A handler that lets the event loop run starts a nested pass; a command
+    // removed there is not refreshed again by either pass, and the outer pass
+    // neither skips nor repeats the others.
+    void nestedRefreshPass()
+    {
+        RecordedPass pass;
+        pass.hooks[2] = [&pass] {
+            pass.hooks.remove(2);
+            pass.registry.removeCommand(1);
+            pass.order << 0;
+            emitAwake();
+            pass.order << 0;
+        };
+        emitAwake();
+        QCOMPARE(pass.order, (QList<int>{1, 2, 0, 2, 3, 4, 5, 0, 3, 4, 5}));
     }
 };
 
