@@ -14,10 +14,10 @@ QHotKeyPage::QHotKeyPage(QWidget* parent)
     , m_action(nullptr)
     , m_edit(nullptr)
 {
-    // Created before the form's widgets so that it leads the focus chain: the
-    // page opens ready to capture a combination, not with a list row current.
-    m_edit = new QtKeySequenceEdit(this);
+    // The form first, then the edit: children and focus chain follow the
+    // form's order, with the edit at their end.
     m_ui->setupUi(this);
+    m_edit = new QtKeySequenceEdit(this);
     m_ui->horizontalLayout->insertWidget(0, m_edit);
 
     if (parent) {

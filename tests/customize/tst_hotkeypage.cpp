@@ -91,6 +91,8 @@ class TestHotKeyPage : public QObject
 
 private slots:
     void form();
+    void formFirstThenEdit();
+    void focusChainStartsAtFormsFirstWidget();
     void formTexts();
     void formTranslatedInFormContext();
     void addIconFromResources();
@@ -156,6 +158,64 @@ void TestHotKeyPage::form()
     QCOMPARE(row1->count(), 2);
     QCOMPARE(row1->itemAt(0)->widget(), static_cast<QWidget*>(f.edit));
     QCOMPARE(row1->itemAt(1)->widget(), static_cast<QWidget*>(f.addButton));
+}
+
+// The page builds its form, then the key sequence edit: the edit is the last
+// child of the page.
+void TestHotKeyPage::formFirstThenEdit()
+{
+    PageFixture f;
+    QList<QWidget*> children;
+    for (QObject* child : f.page->children()) {
+        if (auto* widget = qobject_cast<QWidget*>(child))
+            children << widget;
+    }
+    const QList<QWidget*> expected{f.page->findChild<QLabel*>(QStringLiteral("label_4")),
+                                   f.addButton,
+                                   f.owner,
+                                   f.page->findChild<QLabel*>(QStringLiteral("label_5")),
+                                   f.list,
+                                   f.delButton,
+                                   f.edit};
+    QCOMPARE(children, expected);
+}
+
+// The focus chain follows the order of creation: from the page to the form's
+// widgets in form order, then the edit.
+void TestHotKeyPage::focusChainStartsAtFormsFirstWidget()
+{
+    PageFixture f;
+    QList<QWidget*> chain;
+    for (QWidget* w = f.page->nextInFocusChain(); w != f.page; w = w->nextInFocusChain()) {
+        if (w->parentWidget() == f.page)
+            chain << w;
+    }
+    const QList<QWidget*> expected{f.page->findChild<QLabel*>(QStringLiteral("label_4")),
+                                   f.addButton,
+                                   f.owner,
+                                   f.page->findChild<QLabel*>(QStringLiteral("label_5")),
+                                   f.list,
+                                   f.delButton,
+                                   f.edit};
+    QCOMPARE(chain, expected);
+    QCOMPARE(f.page->nextInFocusChain(), expected.first());
+
+    // A window opening on the page gives the focus to the first widget of
+    // the form that takes it (the add button waits for a combination, the
+    // owner field is hidden), and Tab goes on in form order, the edit last.
+    QAction save(QStringLiteral("&Save"), nullptr);
+    f.page->setShortcuts(Table{{&save, {seq("Ctrl+S")}}});
+    f.page->setAction(&save);
+    QVERIFY(f.show());
+    QApplication::setActiveWindow(&f.panel);
+    QVERIFY(QTest::qWaitForWindowActive(&f.panel));
+    QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(f.list));
+    QList<QWidget*> tabbed;
+    for (int i = 0; i < 3; ++i) {
+        tabbed << QApplication::focusWidget();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(tabbed, (QList<QWidget*>{f.list, f.delButton, f.edit}));
 }
 
 void TestHotKeyPage::formTexts()
@@ -405,6 +465,8 @@ void TestHotKeyPage::deleteWithoutSelectionOnlyRefreshes()
     const Table table{{&save, {seq("Ctrl+S"), seq("F2")}}};
     f.page->setShortcuts(table);
     f.page->setAction(&save);
+    // Opened with the focus in the edit: the list takes no current row.
+    f.edit->setFocus();
     QVERIFY(f.show());
     QCOMPARE(f.list->currentRow(), -1);
     QTest::keyClick(f.edit, Qt::Key_F3);
@@ -423,6 +485,7 @@ void TestHotKeyPage::selectAndDelete()
     QAction save(QStringLiteral("Save"), nullptr);
     f.page->setShortcuts(Table{{&save, {seq("Ctrl+S"), seq("F2"), seq("F3")}}});
     f.page->setAction(&save);
+    f.edit->setFocus();
     QVERIFY(f.show());
     QVERIFY(!f.delButton->isEnabled());
     f.clickRow(1);
