@@ -3,11 +3,11 @@
 #include "TessaroTranslate_p.h"
 
 #include <QAction>
+#include <QActionEvent>
 #include <QFont>
 #include <QHash>
 #include <QMenu>
 #include <QPointer>
-#include <QSet>
 
 namespace {
 
@@ -30,66 +30,114 @@ QString plainText(const QAction* action)
     return text;
 }
 
-// Depth first from menu: the first menu that holds action, and its position
-// there. The parent action is that menu's menuAction().
-QMenu* findHolder(const QAction* action, QMenu* menu, int* row)
-{
-    const QList<QAction*> actions = menu->actions();
-    for (int i = 0; i < actions.size(); ++i) {
-        QAction* entry = actions.at(i);
-        if (entry == action) {
-            *row = i;
-            return menu;
-        }
-        if (QMenu* sub = entry->menu()) {
-            if (QMenu* found = findHolder(action, sub, row))
-                return found;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 // Views ask parent() for every painted or selected row, and a walk from the
-// root costs the whole menu in front of the item. The cache remembers where
-// each action was first met; every answer is checked against the live menu
-// (the holder still has the action at that row) and falls back to the walk
-// when the menu has changed since.
-struct MenuTreeModel::ParentCache
+// root costs the whole menu in front of the item. The cache holds the walk's
+// answer for every action under the root (the first menu that holds it, depth
+// first, and its row there), learned in one pass. It watches every menu it
+// went through and forgets it all as soon as one of them changes in a way
+// that can move an answer: an action added or removed, an action given
+// another submenu, a menu deleted. So it answers as the walk would at every
+// moment, also when the host changes the menu without calling setMenu().
+class MenuTreeModel::ParentCache : public QObject
 {
-    struct Place
+public:
+    // The menu that holds action, and its row there; false when the action
+    // is not under root.
+    bool locate(QMenu* root, const QAction* action, QMenu** holder, int* row)
     {
-        QPointer<QMenu> holder;
-        int row;
-    };
-    QHash<const QAction*, Place> places;
-    bool dirty = true;
-
-    void rebuild(QMenu* root)
-    {
-        places.clear();
-        QSet<const QMenu*> visited;
-        if (root)
-            add(root, visited);
-        dirty = false;
+        if (!m_learned)
+            learn(root);
+        const auto it = m_places.constFind(action);
+        if (it == m_places.cend())
+            return false;
+        *holder = it->holder;
+        *row = it->row;
+        return true;
     }
 
-    void add(QMenu* menu, QSet<const QMenu*>& visited)
+    void forget()
     {
-        if (visited.contains(menu))
+        for (const QPointer<QMenu>& menu : qAsConst(m_watched)) {
+            if (menu) {
+                menu->removeEventFilter(this);
+                disconnect(menu, nullptr, this, nullptr);
+            }
+        }
+        m_watched.clear();
+        m_places.clear();
+        m_learned = false;
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::ActionAdded:
+        case QEvent::ActionRemoved:
+            forget();
+            break;
+        case QEvent::ActionChanged:
+            if (submenuChanged(static_cast<QActionEvent*>(event)->action()))
+                forget();
+            break;
+        default:
+            break;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    struct Place
+    {
+        QMenu* holder;
+        int row;
+        const QMenu* submenu; // the action's submenu when learned
+    };
+
+    bool submenuChanged(const QAction* action) const
+    {
+        const auto it = m_places.constFind(action);
+        return it == m_places.cend() || it->submenu != action->menu();
+    }
+
+    void learn(QMenu* root)
+    {
+        if (root)
+            learnMenu(root);
+        m_learned = true;
+    }
+
+    // Depth first, in menu order, as the walk goes; a menu met again adds
+    // nothing (its actions were placed on the first visit).
+    void learnMenu(QMenu* menu)
+    {
+        if (m_watched.contains(menu))
             return;
-        visited.insert(menu);
+        watch(menu);
         const QList<QAction*> actions = menu->actions();
         for (int i = 0; i < actions.size(); ++i) {
             QAction* entry = actions.at(i);
+            QMenu* sub = entry->menu();
             // The walk stops at the first place, so only that one counts.
-            if (!places.contains(entry))
-                places.insert(entry, Place{menu, i});
-            if (QMenu* sub = entry->menu())
-                add(sub, visited);
+            if (!m_places.contains(entry))
+                m_places.insert(entry, Place{menu, i, sub});
+            if (sub)
+                learnMenu(sub);
         }
     }
+
+    void watch(QMenu* menu)
+    {
+        m_watched.insert(menu, menu);
+        menu->installEventFilter(this);
+        connect(menu, &QObject::destroyed, this, [this] { forget(); });
+    }
+
+    QHash<const QAction*, Place> m_places;
+    QHash<const QMenu*, QPointer<QMenu>> m_watched;
+    bool m_learned = false;
 };
 
 MenuTreeModel::MenuTreeModel(QMenu* menu, QObject* parent)
@@ -105,30 +153,8 @@ void MenuTreeModel::setMenu(QMenu* menu)
 {
     beginResetModel();
     m_menu = menu;
-    m_cache->places.clear();
-    m_cache->dirty = true;
+    m_cache->forget();
     endResetModel();
-}
-
-bool MenuTreeModel::locate(const QAction* action, QMenu** holder, int* row) const
-{
-    if (m_cache->dirty)
-        m_cache->rebuild(m_menu);
-    const auto it = m_cache->places.constFind(action);
-    if (it != m_cache->places.cend()) {
-        QMenu* menu = it->holder.data();
-        if (menu && menu->actions().value(it->row) == action) {
-            *holder = menu;
-            *row = it->row;
-            return true;
-        }
-    }
-    *holder = findHolder(action, m_menu, row);
-    // Found by the walk but not by the cache: the menu changed, so relearn it
-    // on the next lookup.
-    if (*holder || it != m_cache->places.cend())
-        m_cache->dirty = true;
-    return *holder != nullptr;
 }
 
 QMenu* MenuTreeModel::menu() const
@@ -158,13 +184,13 @@ QModelIndex MenuTreeModel::parent(const QModelIndex& index) const
         return QModelIndex();
     QMenu* holder = nullptr;
     int row = -1;
-    if (!locate(actionForIndex(index), &holder, &row))
+    if (!m_cache->locate(m_menu, actionForIndex(index), &holder, &row))
         return QModelIndex();
     QAction* parentAction = holder->menuAction();
     if (parentAction->menu() == m_menu)
         return QModelIndex();
     QMenu* grandHolder = nullptr;
-    if (!locate(parentAction, &grandHolder, &row))
+    if (!m_cache->locate(m_menu, parentAction, &grandHolder, &row))
         row = -1;
     return createIndex(row, 0, parentAction);
 }

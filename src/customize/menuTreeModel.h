@@ -56,9 +56,7 @@ public:
                         int role = Qt::DisplayRole) const override;
 
 private:
-    bool locate(const QAction* action, QMenu** holder, int* row) const;
-
     QMenu* m_menu;
-    struct ParentCache;
+    class ParentCache;
     std::unique_ptr<ParentCache> m_cache;
 };

@@ -7,6 +7,8 @@
 #include <QFont>
 #include <QMenu>
 #include <QPixmap>
+#include <QPointer>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTranslator>
@@ -92,6 +94,43 @@ QModelIndex findIndex(const QAbstractItemModel& model, const QAction* action,
     return QModelIndex();
 }
 
+// The parent the model must give, found the slow way: walk the menu from the
+// root, depth first, to the first menu that holds the action.
+QAction* walkToParent(const QAction* action, QMenu* menu)
+{
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* entry : actions) {
+        if (entry == action)
+            return menu->menuAction();
+        if (QMenu* sub = entry->menu()) {
+            if (QAction* found = walkToParent(action, sub))
+                return found;
+        }
+    }
+    return nullptr;
+}
+
+// What parent() answers for an index of the action, per the walk: no parent
+// for an action not under the root or held by the root itself; otherwise the
+// holder's menu action, at its place in the menu that holds it (-1 when none).
+QString walkedParent(QMenu* root, const QAction* action)
+{
+    QAction* parent = walkToParent(action, root);
+    if (!parent || parent->menu() == root)
+        return QStringLiteral("none");
+    QAction* grand = walkToParent(parent, root);
+    const int row = grand ? grand->menu()->actions().indexOf(parent) : -1;
+    return QStringLiteral("%1@%2").arg(parent->text()).arg(row);
+}
+
+QString modelParent(const QAbstractItemModel& model, const QModelIndex& index)
+{
+    const QModelIndex parent = model.parent(index);
+    if (!parent.internalPointer())
+        return QStringLiteral("none");
+    return QStringLiteral("%1@%2").arg(static_cast<QAction*>(parent.internalPointer())->text()).arg(parent.row());
+}
+
 class ExposedModel : public MenuTreeModel
 {
 public:
@@ -132,6 +171,10 @@ private slots:
     void separatorTranslatedInFileContext();
     void actionInTwoSubmenusHasFirstParent();
     void foreignMenuActionGivesRowMinusOne();
+    void parentAfterAddingToEarlierSubmenu();
+    void parentAfterSubmenuChanges();
+    void parentAfterSubmenuDeleted();
+    void parentEqualsWalkThroughRandomEdits();
 
     void widgetConstruction();
     void widgetExpandsAll();
@@ -535,6 +578,185 @@ void TestMenuTree::foreignMenuActionGivesRowMinusOne()
     const QModelIndex parent = model.parent(childIndex);
     QCOMPARE(parent.row(), -1);
     QVERIFY(!parent.isValid());
+}
+
+// Answered once, then the command is also put into a submenu that comes
+// earlier, without setMenu(): the answer follows the walk at once.
+void TestMenuTree::parentAfterAddingToEarlierSubmenu()
+{
+    Fixture f;
+    ExposedModel model(&f.root);
+    const QModelIndex copy = findIndex(model, f.copy);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.edit->menuAction());
+
+    f.file->addAction(f.copy);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.file->menuAction());
+    QCOMPARE(model.parent(copy).row(), 0);
+    QCOMPARE(modelParent(model, copy), walkedParent(&f.root, f.copy));
+
+    // Deeper and earlier still, then taken out again.
+    f.image->insertAction(f.png, f.copy);
+    QCOMPARE(model.parent(copy), findIndex(model, f.image->menuAction()));
+    f.image->removeAction(f.copy);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.file->menuAction());
+    f.file->removeAction(f.copy);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(copy)), f.edit->menuAction());
+
+    // A new submenu in front that holds the command.
+    QMenu* first = new QMenu(QStringLiteral("First"), &f.root);
+    first->addAction(f.cut);
+    const QModelIndex cut = findIndex(model, f.cut);
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(cut)), f.edit->menuAction());
+    f.root.insertAction(f.file->menuAction(), first->menuAction());
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(cut)), first->menuAction());
+    QCOMPARE(model.parent(cut).row(), 0);
+    // The top-level parents behind it moved down by one row.
+    QCOMPARE(model.parent(model.make(0, 0, f.newAct)).row(), 1);
+    QCOMPARE(model.parent(model.make(0, 0, f.copy)).row(), 2);
+}
+
+// A command given a submenu (or losing one) changes what lies under the root.
+void TestMenuTree::parentAfterSubmenuChanges()
+{
+    Fixture f;
+    ExposedModel model(&f.root);
+    const QModelIndex jpeg = model.make(1, 0, f.jpeg);
+    QCOMPARE(modelParent(model, jpeg), QStringLiteral("Image@1"));
+
+    // Open gets a menu holding JPEG: found there first.
+    QMenu holder(QStringLiteral("Holder"));
+    holder.addAction(f.jpeg);
+    f.open->setMenu(&holder);
+    QCOMPARE(modelParent(model, jpeg), walkedParent(&f.root, f.jpeg));
+    QCOMPARE(MenuTreeModel::actionForIndex(model.parent(jpeg)), f.open);
+    QCOMPARE(model.parent(jpeg).row(), 1);
+
+    // Export's submenu taken off its action: Image and JPEG below it are
+    // reachable only through Open now.
+    f.open->setMenu(nullptr);
+    const QModelIndex png = model.make(0, 0, f.png);
+    QCOMPARE(modelParent(model, png), QStringLiteral("Image@1"));
+    QAction* ownExportAction = f.exportMenu->menuAction();
+    QAction* exportAction = new QAction(QStringLiteral("Export"), &f.root);
+    exportAction->setMenu(f.exportMenu);
+    f.file->insertAction(ownExportAction, exportAction);
+    f.file->removeAction(ownExportAction);
+    QCOMPARE(modelParent(model, png), walkedParent(&f.root, f.png));
+    QCOMPARE(model.parent(model.parent(png)).row(), 4);
+    exportAction->setMenu(nullptr);
+    QCOMPARE(modelParent(model, png), QStringLiteral("none"));
+    QCOMPARE(modelParent(model, png), walkedParent(&f.root, f.png));
+}
+
+// A submenu deleted behind the model's back takes its place with it; the
+// same command elsewhere is found there.
+void TestMenuTree::parentAfterSubmenuDeleted()
+{
+    Fixture f;
+    ExposedModel model(&f.root);
+    QMenu* holderMenu = new QMenu(QStringLiteral("Holder"));
+    QMenu* inner = holderMenu->addMenu(QStringLiteral("Inner"));
+    inner->addAction(f.cut);
+    QAction holder(QStringLiteral("Holder"), nullptr);
+    holder.setMenu(holderMenu);
+    f.file->insertAction(f.newAct, &holder);
+    const QModelIndex cut = model.make(0, 0, f.cut);
+    QCOMPARE(modelParent(model, cut), QStringLiteral("Inner@0"));
+
+    delete holderMenu;
+    QVERIFY(!holder.menu());
+    QCOMPARE(modelParent(model, cut), QStringLiteral("&Edit@1"));
+    QCOMPARE(modelParent(model, cut), walkedParent(&f.root, f.cut));
+}
+
+// Random edits of a menu tree that the model is never told about; after each
+// one, the parent of every action (in or out of the tree) equals the walk's.
+void TestMenuTree::parentEqualsWalkThroughRandomEdits()
+{
+    // Menus 0 (the root) to 5. A menu holds only menus of higher numbers, and
+    // only menus 0 to 3 hold the "holder" commands, which may carry menus 4
+    // or 5; menus 4 and 5 hold plain commands only. So no menu ever contains
+    // itself, however the edits go.
+    QMenu root(QStringLiteral("Root"));
+    QList<QPointer<QMenu>> menus{&root};
+    for (int i = 1; i <= 5; ++i)
+        menus << new QMenu(QStringLiteral("Menu %1").arg(i), &root);
+    QList<QAction*> plain;
+    QList<QAction*> holders;
+    for (int i = 0; i < 8; ++i)
+        plain << new QAction(QStringLiteral("Plain %1").arg(i), &root);
+    for (int i = 0; i < 3; ++i)
+        holders << new QAction(QStringLiteral("Holder %1").arg(i), &root);
+
+    ExposedModel model(&root);
+    QRandomGenerator random(1729);
+    auto pick = [&random](int size) { return int(random.bounded(size)); };
+    auto insertInto = [&pick](QMenu* menu, QAction* action) {
+        const QList<QAction*> present = menu->actions();
+        const int at = pick(present.size() + 1);
+        menu->insertAction(at < present.size() ? present.at(at) : nullptr, action);
+    };
+    auto every = [&]() {
+        QList<QAction*> actions = plain + holders;
+        for (const QPointer<QMenu>& menu : qAsConst(menus))
+            actions << menu->menuAction();
+        return actions;
+    };
+
+    int checked = 0;
+    int found = 0;
+    for (int step = 0; step < 1500; ++step) {
+        const int low = pick(4);            // a menu that may hold anything
+        const int any = pick(6);
+        const int high = low + 1 + pick(5 - low);
+        switch (pick(7)) {
+        case 0:
+            insertInto(menus.at(any), plain.at(pick(plain.size())));
+            break;
+        case 1:
+            insertInto(menus.at(low), holders.at(pick(holders.size())));
+            break;
+        case 2:
+            insertInto(menus.at(low), menus.at(high)->menuAction());
+            break;
+        case 3: {
+            const QList<QAction*> present = menus.at(any)->actions();
+            if (!present.isEmpty())
+                menus.at(any)->removeAction(present.at(pick(present.size())));
+            break;
+        }
+        case 4: {
+            const int target = 4 + pick(3);  // 4, 5 or no menu
+            holders.at(pick(holders.size()))->setMenu(target < 6 ? menus.at(target).data() : nullptr);
+            break;
+        }
+        case 5:
+            if (pick(8) == 0) {
+                // A menu dies and a fresh one takes its number.
+                const int victim = 1 + pick(5);
+                delete menus.at(victim).data();
+                menus[victim] = new QMenu(QStringLiteral("Menu %1'").arg(victim), &root);
+            }
+            break;
+        default:
+            // Only questions: they fill the cache between edits.
+            break;
+        }
+        // Ask about a few actions first, then about all of them.
+        const QList<QAction*> actions = every();
+        for (int i = 0; i < 3; ++i) {
+            QAction* action = actions.at(pick(actions.size()));
+            QCOMPARE(modelParent(model, model.make(0, 0, action)), walkedParent(&root, action));
+        }
+        for (QAction* action : actions) {
+            const QString expected = walkedParent(&root, action);
+            QCOMPARE(modelParent(model, model.make(0, 0, action)), expected);
+            ++checked;
+            found += expected != QStringLiteral("none");
+        }
+    }
+    // The edits must keep a good part of the actions under nested menus.
+    QVERIFY2(found > checked / 5, qPrintable(QStringLiteral("%1 of %2").arg(found).arg(checked)));
 }
 
 void TestMenuTree::widgetConstruction()
