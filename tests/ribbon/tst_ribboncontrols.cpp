@@ -118,6 +118,8 @@ private Q_SLOTS:
     void setPopupModeOnContainer();
     void moveActionToEnd();
     void moveActionToFront();
+    void moveActionKeepsNonDefaultLooks();
+    void moveActionDropsGroupButtonType();
     void updateGroupKeepsOnlyStyles();
     void redrawPageNullSafe();
     void widgetActionDeletedInGroup();
@@ -663,6 +665,92 @@ void tst_RibbonControls::moveActionToFront()
     // Out of range: nothing happens.
     ui::moveAction(f.group, 9, 0);
     QCOMPARE(f.group->actions().size(), 4);
+}
+
+// A fresh control shows text under a large icon; a moved button must keep the
+// look it had, not fall back to that.
+void tst_RibbonControls::moveActionKeepsNonDefaultLooks()
+{
+    using Definition = Qtitan::RibbonControlSizeDefinition;
+    const QList<Definition::GroupSize> sizes{Definition::GroupLarge, Definition::GroupMedium,
+                                             Definition::GroupSmall, Definition::GroupPopup};
+    RibbonFixture f(4);
+    Qtitan::RibbonGroup fresh;
+    QAction freshAction(QStringLiteral("x"), nullptr);
+    fresh.addAction(&freshAction);
+    auto* freshControl = qobject_cast<Qtitan::RibbonButtonControl*>(fresh.controlByAction(&freshAction));
+    QVERIFY(freshControl);
+    QCOMPARE(freshControl->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+
+    ui::setActionButtonStyle(f.group, f.actions[0], Qt::ToolButtonTextBesideIcon);
+    ui::setActionButtonStyle(f.group, f.actions[1], Qt::ToolButtonIconOnly);
+    ui::setActionButtonStyle(f.group, f.actions[2], Qt::ToolButtonTextOnly);
+    ui::setActionButtonStyle(f.group, f.actions[3], Qt::ToolButtonTextBesideIcon);
+
+    struct Move
+    {
+        int from;
+        int to;
+        QList<int> order;
+    };
+    const QList<Move> moves{
+        {0, 99, {1, 2, 3, 0}}, // text beside the icon, to the end
+        {0, 2, {2, 3, 1, 0}},  // icon only, into the middle
+        {3, 0, {0, 2, 3, 1}},  // back to the front
+        {1, 3, {0, 3, 1, 2}},  // text only, to the last place
+    };
+    for (const Move& move : moves) {
+        ui::moveAction(f.group, move.from, move.to);
+        QList<QAction*> order;
+        for (int i : move.order)
+            order << f.actions[i];
+        QCOMPARE(f.group->actions(), order);
+        QCOMPARE(ui::actionButtonStyle(f.group, f.actions[0]), Qt::ToolButtonTextBesideIcon);
+        QCOMPARE(ui::actionButtonStyle(f.group, f.actions[1]), Qt::ToolButtonIconOnly);
+        QCOMPARE(ui::actionButtonStyle(f.group, f.actions[2]), Qt::ToolButtonTextOnly);
+        QCOMPARE(ui::actionButtonStyle(f.group, f.actions[3]), Qt::ToolButtonTextBesideIcon);
+        for (QAction* action : {f.actions[0], f.actions[3]}) {
+            auto* control = qobject_cast<Qtitan::RibbonButtonControl*>(f.group->controlByAction(action));
+            QVERIFY(control);
+            QCOMPARE(ui::findActionButton(f.group, action)->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+            for (Definition::GroupSize size : sizes) {
+                QCOMPARE(control->sizeDefinition(size)->imageSize(), Definition::ImageSmall);
+                QVERIFY(control->sizeDefinition(size)->isLabelVisible());
+            }
+        }
+    }
+}
+
+// The group button type is not carried by a move (callers set it again):
+// the moved button and the others of its group come back as simple buttons
+// that only open their menus.
+void tst_RibbonControls::moveActionDropsGroupButtonType()
+{
+    RibbonFixture f(3);
+    for (QAction* action : qAsConst(f.actions)) {
+        auto* menu = new QMenu(&f.ribbon);
+        menu->addAction(QStringLiteral("Первая"));
+        menu->addAction(QStringLiteral("Вторая"));
+        action->setMenu(menu);
+    }
+    ui::setGroupButtonType(f.group, f.actions[0], ui::Dynamic);
+    ui::setGroupButtonType(f.group, f.actions[1], ui::DynamicLite);
+    ui::setActionButtonStyle(f.group, f.actions[0], Qt::ToolButtonTextBesideIcon);
+
+    ui::moveAction(f.group, 0, 99);
+    QCOMPARE(f.group->actions(), (QList<QAction*>{f.actions[1], f.actions[2], f.actions[0]}));
+    QCOMPARE(ui::actionButtonStyle(f.group, f.actions[0]), Qt::ToolButtonTextBesideIcon);
+    for (QAction* action : qAsConst(f.actions)) {
+        QToolButton* button = ui::findActionButton(f.group, action);
+        QVERIFY(button);
+        QCOMPARE(ui::getGroupButtonType(f.group, action), ui::Simple);
+        QVERIFY(!button->findChild<ui::DynamicGroupActionHandler*>());
+    }
+
+    // Set again by the caller, the type works on the moved button.
+    ui::setGroupButtonType(f.group, f.actions[0], ui::Dynamic);
+    QCOMPARE(ui::getGroupButtonType(f.group, f.actions[0]), ui::Dynamic);
+    QCOMPARE(ui::findActionButton(f.group, f.actions[0])->popupMode(), QToolButton::MenuButtonPopup);
 }
 
 void tst_RibbonControls::updateGroupKeepsOnlyStyles()
