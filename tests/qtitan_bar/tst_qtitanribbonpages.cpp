@@ -110,6 +110,49 @@ private Q_SLOTS:
         QCOMPARE(titles(f.bar).mid(6), (QStringList{"End", "Tail"}));
     }
 
+    // Inserting at exactly the current page's index puts the new page in
+    // front of it: the page that was current stays current (and shown), one
+    // index further on.
+    void insertPageAtTheCurrentIndexKeepsTheCurrentPage()
+    {
+        Fixture f;
+        f.bar.setCurrentPageIndex(2);
+        RibbonPage* c = f.bar.page(2);
+        QTRY_VERIFY(c->isVisible());
+        QSignalSpy spy(&f.bar, &RibbonBar::currentPageIndexChanged);
+
+        RibbonPage* inserted = f.bar.insertPage(2, QStringLiteral("New"));
+        QCOMPARE(titles(f.bar), (QStringList{"A", "B", "New", "C", "D"}));
+        QCOMPARE(f.bar.currentPageIndex(), 3);
+        QCOMPARE(f.bar.page(3), c);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toInt(), 3);
+        QVERIFY(c->isVisible());
+        QVERIFY(!inserted->isVisible());
+
+        // The same for a page object, and at the front while the first page is current.
+        f.bar.setCurrentPageIndex(0);
+        RibbonPage* a = f.bar.page(0);
+        spy.clear();
+        auto* front = new RibbonPage;
+        front->setTitle(QStringLiteral("Front"));
+        f.bar.insertPage(0, front);
+        QCOMPARE(f.bar.page(0), front);
+        QCOMPARE(f.bar.currentPageIndex(), 1);
+        QCOMPARE(f.bar.page(1), a);
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(a->isVisible());
+        QVERIFY(!front->isVisible());
+
+        // Into an empty ribbon the page becomes the current one.
+        RibbonBar empty;
+        QSignalSpy emptySpy(&empty, &RibbonBar::currentPageIndexChanged);
+        RibbonPage* only = empty.insertPage(0, QStringLiteral("Only"));
+        QCOMPARE(empty.currentPageIndex(), 0);
+        QCOMPARE(empty.page(0), only);
+        QCOMPARE(emptySpy.count(), 1);
+    }
+
     void insertPageObjectTakesOwnership()
     {
         Fixture f;
