@@ -1,11 +1,33 @@
 #include "qtitan/AdobePhotoshopStyle.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
 
 namespace Qtitan {
 
+namespace {
+
+using Look = detail::RibbonLook;
+
+// Flat grey panels, square tabs, a File tab in the blue accent and flat highlights.
+const Look FamilyLook = {Look::Surface::Flat, Look::Surface::Flat, Look::TabShape::Square,
+                         Look::GroupMark::Line, Look::SystemButtonShape::FileTab, false};
+
+// One row per theme, in the order of AdobePhotoshopStyle::Theme.
+const Scheme::Seed Themes[] = {
+    // frame   frameText pageTop   pageBottom pageBorder accent  text      workspace highlight
+    {0xDCDCDC, 0x1E1E1E, 0xF0F0F0, 0xF0F0F0, 0xC2C2C2, 0x1473E6, 0x1E1E1E, 0xCACACA, 0xD8D8D8}, // LightGray
+    {0xA6A6A6, 0x101010, 0xB8B8B8, 0xB8B8B8, 0x929292, 0x1473E6, 0x101010, 0x8E8E8E, 0xCACACA}, // Gray
+    {0x383838, 0xE4E4E4, 0x4A4A4A, 0x4A4A4A, 0x626262, 0x1473E6, 0xE8E8E8, 0x2A2A2A, 0x5E5E5E}, // DarkGray
+    {0x1B1B1B, 0xD6D6D6, 0x323232, 0x323232, 0x474747, 0x1473E6, 0xD6D6D6, 0x141414, 0x474747}, // Black
+};
+static_assert(sizeof(Themes) / sizeof(Themes[0]) == AdobePhotoshopStyle::Black + 1, "one row per theme");
+
+} // namespace
+
 AdobePhotoshopStyle::AdobePhotoshopStyle(Theme theme)
-    : m_theme(theme)
+    : CommonStyle(FamilyLook)
+    , m_theme(theme)
 {
 }
 
@@ -23,58 +45,7 @@ void AdobePhotoshopStyle::setTheme(Theme theme)
 
 RibbonColors AdobePhotoshopStyle::ribbonColors() const
 {
-    Scheme::Seed seed;
-    bool warm = false;
-    switch (m_theme) {
-    case LightGray:
-        seed.frame = QColor(0xDC, 0xDC, 0xDC);
-        seed.frameText = QColor(0x1E, 0x1E, 0x1E);
-        seed.pageTop = QColor(0xF0, 0xF0, 0xF0);
-        seed.pageBottom = QColor(0xF0, 0xF0, 0xF0);
-        seed.pageBorder = QColor(0xC2, 0xC2, 0xC2);
-        seed.accent = QColor(0x14, 0x73, 0xE6);
-        seed.text = QColor(0x1E, 0x1E, 0x1E);
-        seed.workspace = QColor(0xCA, 0xCA, 0xCA);
-        warm = false;
-        break;
-    case Gray:
-        seed.frame = QColor(0xA6, 0xA6, 0xA6);
-        seed.frameText = QColor(0x10, 0x10, 0x10);
-        seed.pageTop = QColor(0xB8, 0xB8, 0xB8);
-        seed.pageBottom = QColor(0xB8, 0xB8, 0xB8);
-        seed.pageBorder = QColor(0x92, 0x92, 0x92);
-        seed.accent = QColor(0x14, 0x73, 0xE6);
-        seed.text = QColor(0x10, 0x10, 0x10);
-        seed.workspace = QColor(0x8E, 0x8E, 0x8E);
-        warm = false;
-        break;
-    case DarkGray:
-        seed.frame = QColor(0x3C, 0x3C, 0x3C);
-        seed.frameText = QColor(0xE4, 0xE4, 0xE4);
-        seed.pageTop = QColor(0x53, 0x53, 0x53);
-        seed.pageBottom = QColor(0x53, 0x53, 0x53);
-        seed.pageBorder = QColor(0x6A, 0x6A, 0x6A);
-        seed.accent = QColor(0x14, 0x73, 0xE6);
-        seed.text = QColor(0xE8, 0xE8, 0xE8);
-        seed.workspace = QColor(0x2E, 0x2E, 0x2E);
-        warm = false;
-        break;
-    case Black:
-        seed.frame = QColor(0x1B, 0x1B, 0x1B);
-        seed.frameText = QColor(0xD6, 0xD6, 0xD6);
-        seed.pageTop = QColor(0x32, 0x32, 0x32);
-        seed.pageBottom = QColor(0x32, 0x32, 0x32);
-        seed.pageBorder = QColor(0x47, 0x47, 0x47);
-        seed.accent = QColor(0x14, 0x73, 0xE6);
-        seed.text = QColor(0xD6, 0xD6, 0xD6);
-        seed.workspace = QColor(0x14, 0x14, 0x14);
-        warm = false;
-        break;
-    }
-    RibbonColors colors = Scheme::build(seed);
-    if (warm)
-        Scheme::applyWarmHighlights(colors);
-    return colors;
+    return Scheme::build(Themes[m_theme]);
 }
 
 } // namespace Qtitan

@@ -4,6 +4,8 @@
 #include "qtitan/RibbonQuickAccessBar.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
+#include "RibbonPaint_p.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -49,20 +51,28 @@ bool isOnRibbonFrame(const QWidget* widget)
            && qobject_cast<const RibbonBar*>(parent->parentWidget());
 }
 
-void drawButtonPanel(QPainter* painter, const QRectF& rect, const QColor& fill, const QColor& border)
+// An icon that stays visible on `background`, in every mode a tool button or a menu asks for.
+QIcon visibleIcon(const QIcon& icon, const QSize& size, const QColor& background)
 {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, true);
-    painter->setPen(QPen(border, 1.0));
-    painter->setBrush(fill);
-    painter->drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), 2.0, 2.0);
-    painter->restore();
+    QIcon result;
+    for (QIcon::State state : {QIcon::Off, QIcon::On}) {
+        for (QIcon::Mode mode : {QIcon::Normal, QIcon::Active, QIcon::Selected, QIcon::Disabled})
+            result.addPixmap(detail::visiblePixmap(icon, size, mode, state, background), mode, state);
+    }
+    return result;
 }
 
 } // namespace
 
 CommonStyle::CommonStyle()
     : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+    , m_look(nullptr)
+{
+}
+
+CommonStyle::CommonStyle(const detail::RibbonLook& look)
+    : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+    , m_look(&look)
 {
 }
 
@@ -78,7 +88,10 @@ void CommonStyle::polish(QPalette& palette)
     const RibbonColors c = ribbonColors();
     const bool dark = Scheme::isDark(c.pageBackgroundBottom);
     const QColor window = c.pageBackgroundBottom;
-    const QColor base = dark ? Scheme::mix(c.pageBackgroundBottom, Qt::black, 0.25) : QColor(Qt::white);
+    // The text and the paper of documents and entry fields (Text, Base and the
+    // roles that go with them) are left as they come: a scheme that tinted them
+    // would recolour the user's documents. Dark themes keep the paper light, as
+    // the office suites keep the page white under a dark ribbon.
     const QColor text = c.buttonText;
     const QColor button = dark ? Scheme::mix(c.pageBackgroundTop, Qt::white, 0.06) : c.pageBackgroundTop;
     const QColor highlight = dark ? Scheme::mix(c.systemButtonBackground, Qt::white, 0.1) : c.systemButtonBackground;
@@ -88,9 +101,6 @@ void CommonStyle::polish(QPalette& palette)
         const bool disabled = group == QPalette::Disabled;
         palette.setColor(group, QPalette::Window, window);
         palette.setColor(group, QPalette::WindowText, disabled ? disabledText : text);
-        palette.setColor(group, QPalette::Base, disabled ? window : base);
-        palette.setColor(group, QPalette::AlternateBase, Scheme::mix(base, window, 0.5));
-        palette.setColor(group, QPalette::Text, disabled ? disabledText : text);
         palette.setColor(group, QPalette::Button, button);
         palette.setColor(group, QPalette::ButtonText, disabled ? disabledText : text);
         palette.setColor(group, QPalette::BrightText, Qt::white);
@@ -100,14 +110,11 @@ void CommonStyle::polish(QPalette& palette)
         palette.setColor(group, QPalette::Dark, Scheme::mix(c.pageBorder, Qt::black, 0.25));
         palette.setColor(group, QPalette::Shadow, Scheme::mix(c.pageBorder, Qt::black, 0.6));
         palette.setColor(group, QPalette::Highlight, disabled ? Scheme::mix(highlight, window, 0.5) : highlight);
-        palette.setColor(group, QPalette::HighlightedText, c.systemButtonText);
+        palette.setColor(group, QPalette::HighlightedText, Scheme::isDark(highlight) ? Qt::white : Qt::black);
         palette.setColor(group, QPalette::ToolTipBase, c.menuBackground);
         palette.setColor(group, QPalette::ToolTipText, c.menuText);
         palette.setColor(group, QPalette::Link, highlight);
         palette.setColor(group, QPalette::LinkVisited, Scheme::mix(highlight, text, 0.3));
-#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
-        palette.setColor(group, QPalette::PlaceholderText, Scheme::mix(text, base, 0.5));
-#endif
     }
 }
 
@@ -165,6 +172,17 @@ void CommonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         return;
     }
     switch (element) {
+    case PE_IndicatorBranch: {
+        // Tree arrows lie on the view's paper, which keeps the host's colours,
+        // so they take its text colour rather than the scheme's window text.
+        QStyleOption copy(*option);
+        for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            copy.palette.setColor(group, QPalette::WindowText, option->palette.color(group, QPalette::Text));
+            copy.palette.setColor(group, QPalette::ButtonText, option->palette.color(group, QPalette::Text));
+        }
+        QProxyStyle::drawPrimitive(element, &copy, painter, widget);
+        return;
+    }
     case PE_PanelMenu:
     case PE_FrameMenu: {
         const RibbonColors c = ribbonColors();
@@ -182,6 +200,10 @@ void CommonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         if (option->state & State_AutoRaise) {
             const RibbonColors c = ribbonColors();
             const State state = option->state;
+            const bool glossy = detail::lookOf(*this).glossyButtons;
+            auto drawButtonPanel = [&](const QRect& rect, const QColor& fill, const QColor& border) {
+                detail::drawFace(painter, rect, fill, border, glossy);
+            };
             if (isOnRibbonFrame(widget)) {
                 // Buttons on the title strip or the quick access row take the tab colours.
                 QColor fill;
@@ -192,24 +214,24 @@ void CommonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
                 else if ((state & State_Enabled) && (state & (State_MouseOver | State_Raised)))
                     fill = c.tabHoverBackground;
                 if (fill.isValid())
-                    drawButtonPanel(painter, option->rect, fill, fill);
+                    drawButtonPanel(option->rect, fill, fill);
                 return;
             }
             if (!(state & State_Enabled)) {
                 if (state & State_On)
-                    drawButtonPanel(painter, option->rect, Scheme::mix(c.buttonCheckedBackground, c.pageBackgroundBottom, 0.5),
+                    drawButtonPanel(option->rect, Scheme::mix(c.buttonCheckedBackground, c.pageBackgroundBottom, 0.5),
                                     Scheme::mix(c.buttonCheckedBorder, c.pageBackgroundBottom, 0.5));
                 return;
             }
             if (state & State_Sunken)
-                drawButtonPanel(painter, option->rect, c.buttonPressedBackground, c.buttonPressedBorder);
+                drawButtonPanel(option->rect, c.buttonPressedBackground, c.buttonPressedBorder);
             else if (state & State_On)
-                drawButtonPanel(painter, option->rect,
+                drawButtonPanel(option->rect,
                                 (state & State_MouseOver) ? Scheme::mix(c.buttonCheckedBackground, c.buttonPressedBackground, 0.5)
                                                           : c.buttonCheckedBackground,
                                 c.buttonCheckedBorder);
             else if (state & (State_MouseOver | State_Raised))
-                drawButtonPanel(painter, option->rect, c.buttonHoverBackground, c.buttonHoverBorder);
+                drawButtonPanel(option->rect, c.buttonHoverBackground, c.buttonHoverBorder);
             return;
         }
         break;
@@ -230,10 +252,28 @@ void CommonStyle::drawControl(ControlElement element, const QStyleOption* option
     case CE_MenuScroller:
     case CE_MenuTearoff:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
+            const RibbonColors c = ribbonColors();
             QStyleOptionMenuItem copy(*item);
-            copy.palette = menuPalette(item->palette, ribbonColors());
+            copy.palette = menuPalette(item->palette, c);
+            if (!copy.icon.isNull() && Scheme::isDark(c.menuBackground)) {
+                const int extent = pixelMetric(PM_SmallIconSize, option, widget);
+                copy.icon = visibleIcon(copy.icon, QSize(extent, extent), c.menuBackground);
+            }
             QProxyStyle::drawControl(element, &copy, painter, widget);
             return;
+        }
+        break;
+    case CE_ToolButtonLabel:
+        if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {
+            // On the frame the icon is made to stand out from its lightest part.
+            const QColor background = isOnRibbonFrame(widget) ? detail::frameTop(widget)
+                                                              : button->palette.color(QPalette::Window);
+            if (!button->icon.isNull() && Scheme::isDark(background)) {
+                QStyleOptionToolButton copy(*button);
+                copy.icon = visibleIcon(button->icon, button->iconSize, background);
+                QProxyStyle::drawControl(element, &copy, painter, widget);
+                return;
+            }
         }
         break;
     default:

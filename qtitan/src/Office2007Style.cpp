@@ -1,11 +1,34 @@
 #include "qtitan/Office2007Style.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
 
 namespace Qtitan {
 
+namespace {
+
+using Look = detail::RibbonLook;
+
+// Glassy bands on the frame and the page, a rounded box around each group with its title in a band
+// below, rounded tabs, the round application button and glossy warm highlights.
+const Look FamilyLook = {Look::Surface::Glass, Look::Surface::Glass, Look::TabShape::Rounded,
+                         Look::GroupMark::RoundedFrame, Look::SystemButtonShape::Orb, true};
+
+// One row per theme, in the order of Office2007Style::Theme.
+const Scheme::Seed Themes[] = {
+    // frame   frameText pageTop   pageBottom pageBorder accent  text      workspace highlight
+    {0xBFDBFF, 0x15428B, 0xDFEBF8, 0xC4D8F0, 0x8DB2E3, 0x2C5DA8, 0x15428B, 0x6591CD, 0xFFE38C}, // Blue
+    {0x474747, 0xFFFFFF, 0xEEEEEE, 0xCED1D6, 0x8B8E93, 0x4B4B4B, 0x262626, 0x4A4A4A, 0xFFE38C}, // Black
+    {0xD3D7E0, 0x3F4650, 0xF5F6F8, 0xD9DDE4, 0xA2A9B3, 0x6A7789, 0x2E343B, 0x9BA3AD, 0xFFE38C}, // Silver
+    {0xB6D5E1, 0x184A5E, 0xEAF4F8, 0xC2DCE6, 0x82A8B9, 0x2A7390, 0x184A5E, 0x78A8BE, 0xFFE38C}, // Aqua
+};
+static_assert(sizeof(Themes) / sizeof(Themes[0]) == Office2007Style::Aqua + 1, "one row per theme");
+
+} // namespace
+
 Office2007Style::Office2007Style(Theme theme)
-    : m_theme(theme)
+    : CommonStyle(FamilyLook)
+    , m_theme(theme)
 {
 }
 
@@ -23,58 +46,7 @@ void Office2007Style::setTheme(Theme theme)
 
 RibbonColors Office2007Style::ribbonColors() const
 {
-    Scheme::Seed seed;
-    bool warm = false;
-    switch (m_theme) {
-    case Blue:
-        seed.frame = QColor(0xBF, 0xDB, 0xFF);
-        seed.frameText = QColor(0x15, 0x42, 0x8B);
-        seed.pageTop = QColor(0xE7, 0xF0, 0xFB);
-        seed.pageBottom = QColor(0xC9, 0xDC, 0xF3);
-        seed.pageBorder = QColor(0x8D, 0xB2, 0xE3);
-        seed.accent = QColor(0x3B, 0x6D, 0xB3);
-        seed.text = QColor(0x15, 0x42, 0x8B);
-        seed.workspace = QColor(0x65, 0x91, 0xCD);
-        warm = true;
-        break;
-    case Black:
-        seed.frame = QColor(0x53, 0x53, 0x53);
-        seed.frameText = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageTop = QColor(0xEE, 0xEE, 0xEE);
-        seed.pageBottom = QColor(0xCF, 0xCF, 0xCF);
-        seed.pageBorder = QColor(0x7C, 0x7C, 0x7C);
-        seed.accent = QColor(0x4A, 0x4A, 0x4A);
-        seed.text = QColor(0x1E, 0x1E, 0x1E);
-        seed.workspace = QColor(0x47, 0x47, 0x47);
-        warm = true;
-        break;
-    case Silver:
-        seed.frame = QColor(0xD0, 0xD4, 0xDD);
-        seed.frameText = QColor(0x4C, 0x53, 0x5C);
-        seed.pageTop = QColor(0xF7, 0xF8, 0xF9);
-        seed.pageBottom = QColor(0xDC, 0xE0, 0xE6);
-        seed.pageBorder = QColor(0xA4, 0xAA, 0xB3);
-        seed.accent = QColor(0x6C, 0x7A, 0x8C);
-        seed.text = QColor(0x33, 0x3A, 0x42);
-        seed.workspace = QColor(0x9B, 0xA3, 0xAD);
-        warm = true;
-        break;
-    case Aqua:
-        seed.frame = QColor(0xB8, 0xD6, 0xE2);
-        seed.frameText = QColor(0x1B, 0x4F, 0x65);
-        seed.pageTop = QColor(0xED, 0xF6, 0xF9);
-        seed.pageBottom = QColor(0xCB, 0xE2, 0xEA);
-        seed.pageBorder = QColor(0x84, 0xA9, 0xBA);
-        seed.accent = QColor(0x2E, 0x7A, 0x96);
-        seed.text = QColor(0x1B, 0x4F, 0x65);
-        seed.workspace = QColor(0x7A, 0xAA, 0xC0);
-        warm = true;
-        break;
-    }
-    RibbonColors colors = Scheme::build(seed);
-    if (warm)
-        Scheme::applyWarmHighlights(colors);
-    return colors;
+    return Scheme::build(Themes[m_theme]);
 }
 
 } // namespace Qtitan

@@ -1,11 +1,33 @@
 #include "qtitan/Office2013Style.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
 
 namespace Qtitan {
 
+namespace {
+
+using Look = detail::RibbonLook;
+
+// One flat canvas from the title to the page, square tabs outlined by a hairline, a flat coloured
+// File tab and flat highlights.
+const Look FamilyLook = {Look::Surface::Flat, Look::Surface::Flat, Look::TabShape::Square,
+                         Look::GroupMark::Line, Look::SystemButtonShape::FileTab, false};
+
+// One row per theme, in the order of Office2013Style::Theme.
+const Scheme::Seed Themes[] = {
+    // frame   frameText pageTop   pageBottom pageBorder accent  text      workspace highlight
+    {0xFFFFFF, 0x444444, 0xFFFFFF, 0xFFFFFF, 0xD4D4D4, 0x2B579A, 0x262626, 0xEBEBEB, 0xD5E1F2}, // White
+    {0xF1F1F1, 0x444444, 0xF8F8F8, 0xF8F8F8, 0xC6C6C6, 0x2B579A, 0x262626, 0xDEDEDE, 0xD5E1F2}, // Gray
+    {0x444444, 0xF0F0F0, 0x444444, 0x444444, 0x5E5E5E, 0x2B579A, 0xF0F0F0, 0x2E2E2E, 0x5A5A5A}, // Dark
+};
+static_assert(sizeof(Themes) / sizeof(Themes[0]) == Office2013Style::Dark + 1, "one row per theme");
+
+} // namespace
+
 Office2013Style::Office2013Style(Theme theme)
-    : m_theme(theme)
+    : CommonStyle(FamilyLook)
+    , m_theme(theme)
 {
 }
 
@@ -23,47 +45,7 @@ void Office2013Style::setTheme(Theme theme)
 
 RibbonColors Office2013Style::ribbonColors() const
 {
-    Scheme::Seed seed;
-    bool warm = false;
-    switch (m_theme) {
-    case White:
-        seed.frame = QColor(0xFF, 0xFF, 0xFF);
-        seed.frameText = QColor(0x44, 0x44, 0x44);
-        seed.pageTop = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageBottom = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageBorder = QColor(0xD4, 0xD4, 0xD4);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x26, 0x26, 0x26);
-        seed.workspace = QColor(0xEE, 0xEE, 0xEE);
-        warm = false;
-        break;
-    case Gray:
-        seed.frame = QColor(0xE9, 0xE9, 0xE9);
-        seed.frameText = QColor(0x44, 0x44, 0x44);
-        seed.pageTop = QColor(0xF8, 0xF8, 0xF8);
-        seed.pageBottom = QColor(0xF3, 0xF3, 0xF3);
-        seed.pageBorder = QColor(0xC6, 0xC6, 0xC6);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x26, 0x26, 0x26);
-        seed.workspace = QColor(0xDC, 0xDC, 0xDC);
-        warm = false;
-        break;
-    case Dark:
-        seed.frame = QColor(0xC2, 0xC2, 0xC2);
-        seed.frameText = QColor(0x26, 0x26, 0x26);
-        seed.pageTop = QColor(0xE8, 0xE8, 0xE8);
-        seed.pageBottom = QColor(0xE1, 0xE1, 0xE1);
-        seed.pageBorder = QColor(0xA6, 0xA6, 0xA6);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x26, 0x26, 0x26);
-        seed.workspace = QColor(0xA6, 0xA6, 0xA6);
-        warm = false;
-        break;
-    }
-    RibbonColors colors = Scheme::build(seed);
-    if (warm)
-        Scheme::applyWarmHighlights(colors);
-    return colors;
+    return Scheme::build(Themes[m_theme]);
 }
 
 } // namespace Qtitan

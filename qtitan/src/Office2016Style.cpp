@@ -1,11 +1,34 @@
 #include "qtitan/Office2016Style.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
 
 namespace Qtitan {
 
+namespace {
+
+using Look = detail::RibbonLook;
+
+// Flat like 2013; Colorful carries the title and the tabs on a band of the accent colour, with
+// the selected tab cut out of it in the page colour.
+const Look FamilyLook = {Look::Surface::Flat, Look::Surface::Flat, Look::TabShape::Square,
+                         Look::GroupMark::Line, Look::SystemButtonShape::FileTab, false};
+
+// One row per theme, in the order of Office2016Style::Theme.
+const Scheme::Seed Themes[] = {
+    // frame   frameText pageTop   pageBottom pageBorder accent  text      workspace highlight
+    {0x2B579A, 0xFFFFFF, 0xF3F3F3, 0xF3F3F3, 0xD5D5D5, 0x2B579A, 0x262626, 0xE6E6E6, 0xDCDCDC}, // Colorful
+    {0xFFFFFF, 0x444444, 0xF3F3F3, 0xF3F3F3, 0xD4D4D4, 0x2B579A, 0x262626, 0xE6E6E6, 0xDCDCDC}, // White
+    {0x444444, 0xF0F0F0, 0xC6C6C6, 0xC6C6C6, 0x9A9A9A, 0x2B579A, 0x1E1E1E, 0x6A6A6A, 0xDEDEDE}, // DarkGray
+    {0x262626, 0xF0F0F0, 0x363636, 0x363636, 0x4A4A4A, 0x2B579A, 0xF0F0F0, 0x1E1E1E, 0x505050}, // Black
+};
+static_assert(sizeof(Themes) / sizeof(Themes[0]) == Office2016Style::Black + 1, "one row per theme");
+
+} // namespace
+
 Office2016Style::Office2016Style(Theme theme)
-    : m_theme(theme)
+    : CommonStyle(FamilyLook)
+    , m_theme(theme)
 {
 }
 
@@ -23,58 +46,7 @@ void Office2016Style::setTheme(Theme theme)
 
 RibbonColors Office2016Style::ribbonColors() const
 {
-    Scheme::Seed seed;
-    bool warm = false;
-    switch (m_theme) {
-    case Colorful:
-        seed.frame = QColor(0x2B, 0x57, 0x9A);
-        seed.frameText = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageTop = QColor(0xF3, 0xF3, 0xF3);
-        seed.pageBottom = QColor(0xF3, 0xF3, 0xF3);
-        seed.pageBorder = QColor(0xD5, 0xD5, 0xD5);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x26, 0x26, 0x26);
-        seed.workspace = QColor(0xD9, 0xDE, 0xE6);
-        warm = false;
-        break;
-    case White:
-        seed.frame = QColor(0xFF, 0xFF, 0xFF);
-        seed.frameText = QColor(0x44, 0x44, 0x44);
-        seed.pageTop = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageBottom = QColor(0xFF, 0xFF, 0xFF);
-        seed.pageBorder = QColor(0xD4, 0xD4, 0xD4);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x26, 0x26, 0x26);
-        seed.workspace = QColor(0xF0, 0xF0, 0xF0);
-        warm = false;
-        break;
-    case DarkGray:
-        seed.frame = QColor(0x44, 0x44, 0x44);
-        seed.frameText = QColor(0xF0, 0xF0, 0xF0);
-        seed.pageTop = QColor(0xB9, 0xB9, 0xB9);
-        seed.pageBottom = QColor(0xB2, 0xB2, 0xB2);
-        seed.pageBorder = QColor(0x8A, 0x8A, 0x8A);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0x1E, 0x1E, 0x1E);
-        seed.workspace = QColor(0x6A, 0x6A, 0x6A);
-        warm = false;
-        break;
-    case Black:
-        seed.frame = QColor(0x1F, 0x1F, 0x1F);
-        seed.frameText = QColor(0xE8, 0xE8, 0xE8);
-        seed.pageTop = QColor(0x36, 0x36, 0x36);
-        seed.pageBottom = QColor(0x36, 0x36, 0x36);
-        seed.pageBorder = QColor(0x4A, 0x4A, 0x4A);
-        seed.accent = QColor(0x2B, 0x57, 0x9A);
-        seed.text = QColor(0xF0, 0xF0, 0xF0);
-        seed.workspace = QColor(0x26, 0x26, 0x26);
-        warm = false;
-        break;
-    }
-    RibbonColors colors = Scheme::build(seed);
-    if (warm)
-        Scheme::applyWarmHighlights(colors);
-    return colors;
+    return Scheme::build(Themes[m_theme]);
 }
 
 } // namespace Qtitan

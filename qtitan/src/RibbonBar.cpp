@@ -8,6 +8,7 @@
 
 #include "RibbonBar_p.h"
 #include "RibbonColors_p.h"
+#include "RibbonPaint_p.h"
 
 #include <QAction>
 #include <algorithm>
@@ -16,10 +17,8 @@
 #include <QHash>
 #include <QHelpEvent>
 #include <QToolTip>
-#include <QLinearGradient>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QWheelEvent>
 
 namespace Qtitan {
@@ -594,7 +593,7 @@ void RibbonBar::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const int title = d->titleHeight();
     const QRect tabRow = d->tabRowRect();
-    painter.fillRect(QRect(0, 0, width(), title + tabRow.height()), colors.frameBackground);
+    detail::paintFrame(&painter, QRect(0, 0, width(), title + tabRow.height()), this);
 
     if (d->frameTheme) {
         const QRect iconRect = d->titleIconRect();
@@ -619,10 +618,7 @@ void RibbonBar::paintEvent(QPaintEvent* event)
 
     const QRect area = d->pageAreaRect();
     if (!d->minimized) {
-        QLinearGradient gradient(area.topLeft(), area.bottomLeft());
-        gradient.setColorAt(0.0, colors.pageBackgroundTop);
-        gradient.setColorAt(1.0, colors.pageBackgroundBottom);
-        painter.fillRect(area, gradient);
+        detail::paintPageArea(&painter, area, this);
         painter.setPen(colors.pageBorder);
         painter.drawLine(area.left(), area.bottom(), area.right(), area.bottom());
     }
@@ -643,35 +639,12 @@ void RibbonBar::paintEvent(QPaintEvent* event)
     for (int i = 0; i < d->tabRects.size(); ++i) {
         const QRect rect = d->tabRects.at(i);
         const QString text = Private::pageTitle(d->pages.at(i));
-        if (showSelected && i == d->current) {
-            // Rounded on top, open at the bottom where it joins the page.
-            const QRectF r = QRectF(rect).adjusted(0.5, 0.5, -0.5, 1.0);
-            const qreal radius = 3.0;
-            QPainterPath path;
-            path.moveTo(r.left(), r.bottom());
-            path.lineTo(r.left(), r.top() + radius);
-            path.quadTo(r.left(), r.top(), r.left() + radius, r.top());
-            path.lineTo(r.right() - radius, r.top());
-            path.quadTo(r.right(), r.top(), r.right(), r.top() + radius);
-            path.lineTo(r.right(), r.bottom());
-            painter.save();
-            painter.setRenderHint(QPainter::Antialiasing, true);
-            painter.fillPath(path, colors.tabSelectedBackground);
-            painter.setPen(QPen(colors.tabBorder, 1.0));
-            painter.drawPath(path);
-            painter.restore();
-            painter.setPen(colors.tabTextSelected);
-        } else {
-            if (i == d->hoverTab) {
-                painter.save();
-                painter.setRenderHint(QPainter::Antialiasing, true);
-                painter.setPen(Qt::NoPen);
-                painter.setBrush(colors.tabHoverBackground);
-                painter.drawRoundedRect(QRectF(rect).adjusted(0, 0, 0, -1), 3.0, 3.0);
-                painter.restore();
-            }
-            painter.setPen(colors.tabText);
-        }
+        const bool selected = showSelected && i == d->current;
+        detail::paintTab(&painter, rect,
+                         selected ? detail::TabState::Selected
+                                  : (i == d->hoverTab ? detail::TabState::Hover : detail::TabState::Normal),
+                         this);
+        painter.setPen(selected ? colors.tabTextSelected : colors.tabText);
         const int room = d->tabTextWidths.value(i, rect.width());
         const QString shown = painter.fontMetrics().horizontalAdvance(QString(text).remove(QLatin1Char('&'))) > room
                                   ? painter.fontMetrics().elidedText(QString(text).remove(QLatin1Char('&')),

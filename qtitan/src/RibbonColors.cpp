@@ -7,6 +7,8 @@
 #include <QPalette>
 #include <QWidget>
 
+#include <cmath>
+
 namespace Qtitan {
 namespace Scheme {
 
@@ -23,95 +25,134 @@ bool isDark(const QColor& color)
     return 0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF() < 0.5;
 }
 
+qreal luminance(const QColor& color)
+{
+    auto channel = [](qreal v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) + 0.0722 * channel(color.blueF());
+}
+
+qreal contrast(const QColor& a, const QColor& b)
+{
+    const qreal la = luminance(a);
+    const qreal lb = luminance(b);
+    return (qMax(la, lb) + 0.05) / (qMin(la, lb) + 0.05);
+}
+
+namespace {
+
+// A button highlight one step on: pressed is a full step, checked half of one.
+// On a light page the colour grows richer and a little darker, so a warm hover
+// turns golden and a grey one darker grey; on a dark page it darkens.
+QColor deepen(const QColor& highlight, qreal step, bool darkPage)
+{
+    if (darkPage)
+        return mix(highlight, Qt::black, 0.3 * step);
+    const QColor hsv = highlight.toHsv();
+    return QColor::fromHsvF(hsv.hsvHueF(), qMin<qreal>(1.0, hsv.hsvSaturationF() * (1.0 + 0.5 * step)),
+                            hsv.valueF() * (1.0 - 0.05 * step));
+}
+
+// The outline of a highlighted button face.
+QColor outline(const QColor& fill, bool darkPage)
+{
+    if (darkPage)
+        return mix(fill, Qt::white, 0.16);
+    const QColor hsv = fill.toHsv();
+    return QColor::fromHsvF(hsv.hsvHueF(), qMin<qreal>(1.0, hsv.hsvSaturationF() * 1.3), hsv.valueF() * 0.8);
+}
+
+} // namespace
+
 RibbonColors build(const Seed& seed)
 {
-    const bool darkPage = isDark(seed.pageBottom);
-    const bool darkFrame = isDark(seed.frame);
+    const QColor frame(seed.frame);
+    const QColor frameText(seed.frameText);
+    const QColor pageTop(seed.pageTop);
+    const QColor pageBottom(seed.pageBottom);
+    const QColor pageBorder(seed.pageBorder);
+    const QColor accent(seed.accent);
+    const QColor text(seed.text);
+    const QColor highlight(seed.highlight);
+    const bool darkPage = isDark(pageBottom);
+    const bool darkFrame = isDark(frame);
     const QColor white(Qt::white);
     const QColor black(Qt::black);
 
     RibbonColors c;
-    c.frameBackground = seed.frame;
-    c.titleText = seed.frameText;
-    c.tabText = seed.frameText;
-    c.tabTextSelected = darkPage ? seed.text : (darkFrame ? seed.frame : seed.text);
-    c.tabHoverBackground = darkFrame ? mix(seed.frame, white, 0.14) : mix(seed.frame, black, 0.06);
-    c.tabSelectedBackground = seed.pageTop;
-    c.tabBorder = darkFrame && !darkPage ? seed.pageTop : seed.pageBorder;
-    c.pageBackgroundTop = seed.pageTop;
-    c.pageBackgroundBottom = seed.pageBottom;
-    c.pageBorder = seed.pageBorder;
-    c.groupTitleText = mix(seed.text, seed.pageBottom, 0.32);
-    c.groupSeparator = darkPage ? mix(seed.pageBorder, white, 0.08) : mix(seed.pageBorder, seed.pageBottom, 0.15);
-    c.buttonText = seed.text;
-    c.buttonTextDisabled = mix(seed.text, seed.pageBottom, 0.6);
-    if (darkPage) {
-        c.buttonHoverBackground = mix(seed.pageTop, white, 0.12);
-        c.buttonHoverBorder = mix(seed.pageTop, white, 0.22);
-        c.buttonPressedBackground = mix(seed.pageTop, black, 0.25);
-        c.buttonPressedBorder = mix(seed.pageTop, white, 0.18);
-        c.buttonCheckedBackground = mix(seed.pageTop, seed.accent, 0.35);
-        c.buttonCheckedBorder = mix(seed.pageTop, seed.accent, 0.7);
-    } else {
-        c.buttonHoverBackground = mix(seed.accent, white, 0.82);
-        c.buttonHoverBorder = mix(seed.accent, white, 0.55);
-        c.buttonPressedBackground = mix(seed.accent, white, 0.62);
-        c.buttonPressedBorder = mix(seed.accent, white, 0.3);
-        c.buttonCheckedBackground = mix(seed.accent, white, 0.72);
-        c.buttonCheckedBorder = mix(seed.accent, white, 0.4);
-    }
+    c.frameBackground = frame;
+    c.titleText = frameText;
+    c.tabText = frameText;
+    c.tabTextSelected = darkPage ? text : (darkFrame ? frame : text);
+    // On one flat canvas the selected tab differs from the others only by a
+    // hairline, so its title takes the accent colour where that reads well.
+    if (frame == pageTop && !darkPage && contrast(accent, pageTop) >= 4.5)
+        c.tabTextSelected = accent;
+    c.tabHoverBackground = darkFrame ? mix(frame, white, 0.14) : mix(frame, black, 0.06);
+    c.tabSelectedBackground = pageTop;
+    c.tabBorder = darkFrame && !darkPage ? pageTop : pageBorder;
+    c.pageBackgroundTop = pageTop;
+    c.pageBackgroundBottom = pageBottom;
+    c.pageBorder = pageBorder;
+    c.groupTitleText = mix(text, pageBottom, 0.32);
+    c.groupSeparator = darkPage ? mix(pageBorder, white, 0.08) : mix(pageBorder, pageBottom, 0.15);
+    c.buttonText = text;
+    c.buttonTextDisabled = mix(text, pageBottom, 0.6);
+    c.buttonHoverBackground = highlight;
+    c.buttonHoverBorder = outline(highlight, darkPage);
+    c.buttonPressedBackground = deepen(highlight, 1.0, darkPage);
+    c.buttonPressedBorder = outline(c.buttonPressedBackground, darkPage);
+    c.buttonCheckedBackground = darkPage ? mix(pageTop, accent, 0.35) : deepen(highlight, 0.5, darkPage);
+    c.buttonCheckedBorder = darkPage ? mix(pageTop, accent, 0.7) : outline(c.buttonCheckedBackground, darkPage);
     // A system button in the frame's own colour would not stand out from the tabs.
-    c.systemButtonBackground = seed.accent == seed.frame ? mix(seed.accent, black, 0.18) : seed.accent;
-    c.systemButtonText = isDark(seed.accent) ? white : black;
-    c.quickAccessBackground = seed.frame;
+    c.systemButtonBackground = accent == frame ? mix(accent, black, 0.18) : accent;
+    c.systemButtonText = isDark(c.systemButtonBackground) ? white : black;
+    c.quickAccessBackground = frame;
+    c.menuText = text;
+    c.menuHighlight = highlight;
+    c.menuHighlightText = text;
     if (darkPage) {
-        c.menuBackground = mix(seed.pageTop, black, 0.12);
-        c.menuText = seed.text;
-        c.menuHighlight = mix(seed.pageTop, white, 0.14);
-        c.menuHighlightText = mix(seed.text, white, 0.5);
-        c.menuBorder = mix(seed.pageTop, white, 0.2);
-        c.menuSeparator = mix(seed.pageTop, white, 0.1);
-        c.menuPopupBarBackground = mix(seed.pageTop, black, 0.22);
+        c.menuBackground = mix(pageTop, black, 0.12);
+        c.menuBorder = mix(pageTop, white, 0.2);
+        c.menuSeparator = mix(pageTop, white, 0.1);
+        c.menuPopupBarBackground = mix(pageTop, black, 0.22);
     } else {
         c.menuBackground = white;
-        c.menuText = seed.text;
-        c.menuHighlight = mix(seed.accent, white, 0.84);
-        c.menuHighlightText = seed.text;
-        c.menuBorder = mix(seed.pageBorder, black, 0.12);
-        c.menuSeparator = mix(seed.pageBorder, white, 0.45);
-        c.menuPopupBarBackground = mix(seed.pageBottom, seed.pageBorder, 0.2);
+        c.menuBorder = mix(pageBorder, black, 0.12);
+        c.menuSeparator = mix(pageBorder, white, 0.45);
+        c.menuPopupBarBackground = mix(pageBottom, pageBorder, 0.2);
     }
-    c.workspaceBackground = seed.workspace;
+    c.workspaceBackground = QColor(seed.workspace);
     return c;
 }
 
-void applyWarmHighlights(RibbonColors& c)
+const CommonStyle* commonStyleFor(const QWidget* widget)
 {
-    c.buttonHoverBackground = QColor(0xFD, 0xEC, 0xAF);
-    c.buttonHoverBorder = QColor(0xEB, 0xC4, 0x5B);
-    c.buttonPressedBackground = QColor(0xFB, 0xC9, 0x6A);
-    c.buttonPressedBorder = QColor(0xC2, 0x8A, 0x30);
-    c.buttonCheckedBackground = QColor(0xFC, 0xD9, 0x8B);
-    c.buttonCheckedBorder = QColor(0xC2, 0x9B, 0x3D);
-    c.menuHighlight = QColor(0xFD, 0xEC, 0xAF);
-    c.menuHighlightText = QColor(0x1E, 0x1E, 0x1E);
+    const QStyle* style = widget ? widget->style() : QApplication::style();
+    if (const auto* common = qobject_cast<const CommonStyle*>(style))
+        return common;
+    // A style sheet wraps the application style; the ribbon keeps the look beneath it.
+    if (style && style->inherits("QStyleSheetStyle"))
+        return qobject_cast<const CommonStyle*>(QApplication::style());
+    return nullptr;
 }
 
 } // namespace Scheme
 
 RibbonColors RibbonColors::fromPalette(const QPalette& palette)
 {
-    Scheme::Seed seed;
     const QColor window = palette.color(QPalette::Active, QPalette::Window);
     const bool dark = Scheme::isDark(window);
-    seed.frame = Scheme::mix(window, Qt::black, dark ? 0.2 : 0.07);
-    seed.frameText = palette.color(QPalette::Active, QPalette::WindowText);
-    seed.pageTop = Scheme::mix(window, Qt::white, dark ? 0.04 : 0.45);
-    seed.pageBottom = window;
-    seed.pageBorder = palette.color(QPalette::Active, QPalette::Mid);
-    seed.accent = palette.color(QPalette::Active, QPalette::Highlight);
-    seed.text = palette.color(QPalette::Active, QPalette::ButtonText);
-    seed.workspace = palette.color(QPalette::Active, QPalette::Dark);
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight);
+    Scheme::Seed seed;
+    seed.frame = Scheme::mix(window, Qt::black, dark ? 0.2 : 0.07).rgb();
+    seed.frameText = palette.color(QPalette::Active, QPalette::WindowText).rgb();
+    seed.pageTop = Scheme::mix(window, Qt::white, dark ? 0.04 : 0.45).rgb();
+    seed.pageBottom = window.rgb();
+    seed.pageBorder = palette.color(QPalette::Active, QPalette::Mid).rgb();
+    seed.accent = accent.rgb();
+    seed.text = palette.color(QPalette::Active, QPalette::ButtonText).rgb();
+    seed.workspace = palette.color(QPalette::Active, QPalette::Dark).rgb();
+    seed.highlight = (dark ? Scheme::mix(window, Qt::white, 0.16) : Scheme::mix(accent, Qt::white, 0.82)).rgb();
     RibbonColors colors = Scheme::build(seed);
     colors.systemButtonText = palette.color(QPalette::Active, QPalette::HighlightedText);
     return colors;
@@ -119,14 +160,8 @@ RibbonColors RibbonColors::fromPalette(const QPalette& palette)
 
 RibbonColors RibbonColors::forWidget(const QWidget* widget)
 {
-    const QStyle* style = widget ? widget->style() : QApplication::style();
-    if (const auto* common = qobject_cast<const CommonStyle*>(style))
+    if (const CommonStyle* common = Scheme::commonStyleFor(widget))
         return common->ribbonColors();
-    // A style sheet wraps the application style; the ribbon keeps the scheme beneath it.
-    if (style && style->inherits("QStyleSheetStyle")) {
-        if (const auto* common = qobject_cast<const CommonStyle*>(QApplication::style()))
-            return common->ribbonColors();
-    }
     return fromPalette(widget ? widget->palette() : QApplication::palette());
 }
 

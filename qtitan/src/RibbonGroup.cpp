@@ -11,7 +11,6 @@
 #include <QActionEvent>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLinearGradient>
 #include <QMenu>
 #include <QPainter>
 #include <QScreen>
@@ -39,10 +38,7 @@ void RibbonGroupPopup::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
     const RibbonColors colors = colorsFor(this);
-    QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(0, colors.pageBackgroundTop);
-    gradient.setColorAt(1, colors.pageBackgroundBottom);
-    p.fillRect(rect(), gradient);
+    paintPageArea(&p, rect(), this);
     p.setPen(colors.pageBorder.isValid() ? colors.pageBorder : colors.groupSeparator);
     p.drawRect(rect().adjusted(0, 0, -1, -1));
     const RibbonMetrics m = RibbonMetrics::forWidget(this);
@@ -115,7 +111,7 @@ void RibbonGroupButton::paintEvent(QPaintEvent*)
         light = Highlight::Pressed;
     else if (hover)
         light = Highlight::Hover;
-    drawButtonFace(&p, rect().adjusted(0, 1, 0, -1), colors, light);
+    drawButtonFace(&p, rect().adjusted(0, 1, 0, -1), this, light);
 
     const QFontMetrics fm = fontMetrics();
     const int lh = fm.height();
@@ -125,7 +121,8 @@ void RibbonGroupButton::paintEvent(QPaintEvent*)
         const QRect target((width() - LargeIconSize) / 2, iconTop, LargeIconSize, LargeIconSize);
         p.save();
         p.setRenderHint(QPainter::SmoothPixmapTransform, true);
-        p.drawPixmap(target, icon.pixmap(target.size(), enabled ? QIcon::Normal : QIcon::Disabled));
+        p.drawPixmap(target, visiblePixmap(icon, target.size(), enabled ? QIcon::Normal : QIcon::Disabled, QIcon::Off,
+                                           colors.pageBackgroundBottom));
         p.restore();
     }
     const QColor textColor = enabled ? colors.buttonText : colors.buttonTextDisabled;
@@ -658,6 +655,7 @@ void RibbonGroup::paintEvent(QPaintEvent*)
     const RibbonColors colors = detail::colorsFor(this);
     const RibbonMetrics m = RibbonMetrics::forWidget(this);
     const QRect titleRect(0, detail::GroupTopMargin + m.contentHeight + 1, width(), m.titleHeight);
+    detail::paintGroupFrame(&p, rect(), titleRect, this);
     p.setPen(colors.groupTitleText);
     p.drawText(titleRect, Qt::AlignCenter,
                fontMetrics().elidedText(detail::labelText(d->title), Qt::ElideRight, titleRect.width()));

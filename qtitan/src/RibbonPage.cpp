@@ -7,7 +7,6 @@
 
 #include <QChildEvent>
 #include <QCoreApplication>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QToolButton>
 
@@ -342,20 +341,14 @@ bool RibbonPage::event(QEvent* event)
 void RibbonPage::paintEvent(QPaintEvent*)
 {
     QPainter p(this);
-    const RibbonColors colors = detail::colorsFor(this);
     // On a ribbon bar the bar paints the page area; alone the page paints it.
-    if (!qobject_cast<RibbonBar*>(parentWidget())) {
-        QLinearGradient gradient(0, 0, 0, height());
-        gradient.setColorAt(0, colors.pageBackgroundTop);
-        gradient.setColorAt(1, colors.pageBackgroundBottom);
-        p.fillRect(rect(), gradient);
-    }
+    if (!qobject_cast<RibbonBar*>(parentWidget()))
+        detail::paintPageArea(&p, rect(), this);
     const RibbonMetrics m = RibbonMetrics::forWidget(this);
-    p.setPen(colors.groupSeparator);
     const int top = detail::PageMargin + 3;
     const int bottom = detail::PageMargin + m.groupHeight - 3;
     for (int x : d->separators)
-        p.drawLine(x, top, x, bottom);
+        detail::paintGroupSeparator(&p, x, top, bottom, this);
 }
 
 void RibbonPage::resizeEvent(QResizeEvent* event)

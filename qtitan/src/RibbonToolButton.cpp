@@ -155,8 +155,8 @@ void RibbonToolButton::paintEvent(QPaintEvent*)
         } else if (checked) {
             faceLight = Highlight::Checked;
         }
-        drawButtonFace(&p, face, colors, faceLight);
-        drawButtonFace(&p, dd, colors, dropLight);
+        drawButtonFace(&p, face, this, faceLight);
+        drawButtonFace(&p, dd, this, dropLight);
     } else {
         Highlight light = Highlight::None;
         if (enabled) {
@@ -169,7 +169,7 @@ void RibbonToolButton::paintEvent(QPaintEvent*)
         } else if (checked) {
             light = Highlight::Checked;
         }
-        drawButtonFace(&p, r, colors, light);
+        drawButtonFace(&p, r, this, light);
     }
 
     const QColor textColor = enabled ? colors.buttonText : colors.buttonTextDisabled;
@@ -179,7 +179,7 @@ void RibbonToolButton::paintEvent(QPaintEvent*)
     auto drawIcon = [&](const QRect& target) {
         if (icon.isNull())
             return;
-        const QPixmap pixmap = icon.pixmap(target.size(), mode, state);
+        const QPixmap pixmap = visiblePixmap(icon, target.size(), mode, state, colors.pageBackgroundBottom);
         if (pixmap.isNull())
             return;
         const QSize natural = pixmap.size() / pixmap.devicePixelRatio();

@@ -1,33 +1,36 @@
 #include "qtitan/Windows7ScenicStyle.h"
 
 #include "RibbonColors_p.h"
+#include "RibbonLook_p.h"
 
 namespace Qtitan {
 
-Windows7ScenicStyle::Windows7ScenicStyle() = default;
+namespace {
+
+using Look = detail::RibbonLook;
+
+// The ribbon of WordPad and Paint: a glassy frame, a page that pales from white
+// to sky blue, etched separators, rounded tabs, the blue application tab with
+// its drop-down arrow and glossy sky-blue highlights.
+const Look FamilyLook = {Look::Surface::Glass, Look::Surface::Gradient, Look::TabShape::Rounded,
+                         Look::GroupMark::EtchedLine, Look::SystemButtonShape::ScenicTab, true};
+
+const Scheme::Seed Theme = {
+    // frame   frameText pageTop   pageBottom pageBorder accent  text      workspace highlight
+    0xC9DCF2, 0x1E395B, 0xFFFFFF, 0xE1EAF6, 0xA0B3CD, 0x2A62B8, 0x1E395B, 0xABBAD3, 0xD7E8FC};
+
+} // namespace
+
+Windows7ScenicStyle::Windows7ScenicStyle()
+    : CommonStyle(FamilyLook)
+{
+}
 
 Windows7ScenicStyle::~Windows7ScenicStyle() = default;
 
 RibbonColors Windows7ScenicStyle::ribbonColors() const
 {
-    Scheme::Seed seed;
-    seed.frame = QColor(0xDF, 0xE9, 0xF5);
-    seed.frameText = QColor(0x1E, 0x39, 0x5B);
-    seed.pageTop = QColor(0xFF, 0xFF, 0xFF);
-    seed.pageBottom = QColor(0xE4, 0xEC, 0xF7);
-    seed.pageBorder = QColor(0xB6, 0xBA, 0xC0);
-    seed.accent = QColor(0x19, 0x60, 0xB8);
-    seed.text = QColor(0x1E, 0x39, 0x5B);
-    seed.workspace = QColor(0xAB, 0xBA, 0xD3);
-    RibbonColors colors = Scheme::build(seed);
-    // The scenic ribbon highlights in pale sky blue rather than the accent.
-    colors.buttonHoverBackground = QColor(0xE3, 0xF0, 0xFC);
-    colors.buttonHoverBorder = QColor(0x9B, 0xC4, 0xEE);
-    colors.buttonPressedBackground = QColor(0xC2, 0xDE, 0xF8);
-    colors.buttonPressedBorder = QColor(0x6C, 0x9D, 0xD6);
-    colors.buttonCheckedBackground = QColor(0xCF, 0xE5, 0xFA);
-    colors.buttonCheckedBorder = QColor(0x7D, 0xA9, 0xDE);
-    return colors;
+    return Scheme::build(Theme);
 }
 
 } // namespace Qtitan

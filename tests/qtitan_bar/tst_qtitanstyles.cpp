@@ -211,6 +211,31 @@ private Q_SLOTS:
         QVERIFY(lightPalette.color(QPalette::Window) != palette.color(QPalette::Window));
     }
 
+    void treeArrowsShowOnTheViewsPaper()
+    {
+        // Dark schemes keep a view's paper light; its branch arrows must not
+        // take the scheme's light window text.
+        auto* style = new Office2016Style(Office2016Style::Black);
+        QStyleOption option;
+        option.rect = QRect(0, 0, 20, 20);
+        option.state = QStyle::State_Enabled | QStyle::State_Children | QStyle::State_Item;
+        QPalette palette = style->standardPalette();
+        style->polish(palette);
+        option.palette = palette;
+        QImage image(20, 20, QImage::Format_ARGB32);
+        image.fill(palette.color(QPalette::Base));
+        QPainter painter(&image);
+        style->drawPrimitive(QStyle::PE_IndicatorBranch, &option, &painter);
+        painter.end();
+        qreal strongest = 1;
+        for (int y = 0; y < 20; ++y) {
+            for (int x = 0; x < 20; ++x)
+                strongest = qMax(strongest, contrast(QColor(image.pixel(x, y)), palette.color(QPalette::Base)));
+        }
+        QVERIFY2(strongest >= 4.5, qPrintable(QString::number(strongest)));
+        delete style;
+    }
+
     void menusUseTheSchemeColours()
     {
         auto* style = new Office2016Style(Office2016Style::Black);

@@ -7,6 +7,12 @@
 
 namespace Qtitan {
 
+class CommonStyle;
+namespace detail {
+struct RibbonLook;
+const RibbonLook& lookOf(const CommonStyle& style);
+} // namespace detail
+
 /// Base of every ribbon style. It draws standard Qt elements through the
 /// Fusion style, tinted with the ribbon's colour scheme, and the ribbon's
 /// own elements, among them the MDI workspace background.
@@ -17,6 +23,7 @@ public:
     /// The workspace (empty MDI area) background.
     static constexpr int PE_Workspace = QStyle::PE_CustomBase + 0x16;
 
+    /// A plain ribbon style: flat, with colours derived from Fusion's palette.
     CommonStyle();
     ~CommonStyle() override;
 
@@ -39,6 +46,9 @@ Q_SIGNALS:
     void themeChanged();
 
 protected:
+    /// A family's style, whose ribbon is drawn in the shapes of `look`.
+    explicit CommonStyle(const detail::RibbonLook& look);
+
     /// Re-polishes the application's widgets after a theme change.
     void updateTheme();
 
@@ -51,6 +61,10 @@ protected:
         current = theme;
         updateTheme();
     }
+
+private:
+    friend const detail::RibbonLook& detail::lookOf(const CommonStyle& style);
+    const detail::RibbonLook* m_look;
 };
 
 } // namespace Qtitan
