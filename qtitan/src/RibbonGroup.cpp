@@ -111,6 +111,7 @@ void RibbonGroupButton::paintEvent(QPaintEvent*)
         light = Highlight::Pressed;
     else if (hover)
         light = Highlight::Hover;
+    paintGroupFrame(&p, rect(), QRect(), this);
     drawButtonFace(&p, rect().adjusted(0, 1, 0, -1), this, light);
 
     const QFontMetrics fm = fontMetrics();

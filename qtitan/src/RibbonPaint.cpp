@@ -229,16 +229,19 @@ void paintGroupFrame(QPainter* painter, const QRect& rect, const QRect& titleRec
     QPainterPath path;
     path.addRoundedRect(box, 3.0, 3.0);
     // The body brightens the page a little; the title sits in a deeper band.
-    QLinearGradient body(box.topLeft(), QPointF(box.left(), titleRect.top()));
+    const bool titled = !titleRect.isEmpty();
+    QLinearGradient body(box.topLeft(), QPointF(box.left(), titled ? titleRect.top() : box.bottom()));
     body.setColorAt(0.0, Scheme::mix(c.pageBackgroundTop, Qt::white, 0.45));
     body.setColorAt(1.0, Scheme::mix(c.pageBackgroundBottom, Qt::white, 0.25));
     painter->fillPath(path, body);
-    QPainterPath band;
-    band.addRect(QRectF(box.left(), titleRect.top(), box.width(), box.bottom() - titleRect.top() + 1));
-    QLinearGradient title(0, titleRect.top(), 0, box.bottom());
-    title.setColorAt(0.0, Scheme::mix(c.pageBackgroundBottom, c.pageBorder, 0.22));
-    title.setColorAt(1.0, Scheme::mix(c.pageBackgroundBottom, c.pageBorder, 0.38));
-    painter->fillPath(path.intersected(band), title);
+    if (titled) {
+        QPainterPath band;
+        band.addRect(QRectF(box.left(), titleRect.top(), box.width(), box.bottom() - titleRect.top() + 1));
+        QLinearGradient title(0, titleRect.top(), 0, box.bottom());
+        title.setColorAt(0.0, Scheme::mix(c.pageBackgroundBottom, c.pageBorder, 0.22));
+        title.setColorAt(1.0, Scheme::mix(c.pageBackgroundBottom, c.pageBorder, 0.38));
+        painter->fillPath(path.intersected(band), title);
+    }
     QColor inner(Qt::white);
     inner.setAlpha(150);
     painter->setPen(inner);

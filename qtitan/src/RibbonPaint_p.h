@@ -65,7 +65,8 @@ void paintPageArea(QPainter* painter, const QRect& rect, const QWidget* widget);
 enum class TabState { Normal, Hover, Selected };
 /// The shape of a tab; the caller writes the title over it.
 void paintTab(QPainter* painter, const QRect& rect, TabState state, const QWidget* widget);
-/// The box around a group and the band behind its title, in the looks that have them.
+/// The box around a group and the band behind its title, in the looks that have
+/// them; with an empty `titleRect` (a group shrunk to a button) the box alone.
 void paintGroupFrame(QPainter* painter, const QRect& rect, const QRect& titleRect, const QWidget* widget);
 /// The mark between two groups of a page, at `x` from `top` to `bottom`.
 void paintGroupSeparator(QPainter* painter, int x, int top, int bottom, const QWidget* widget);

@@ -481,6 +481,15 @@ private Q_SLOTS:
             QCOMPARE(pixel(sample.origin() + QPoint(sample.bar->width() - 10, 4)), colors.frameBackground.name());
             QVERIFY(colors.frameBackground.saturation() > 128);
         }
+
+        // A group shrunk to a button keeps 2007's box around it.
+        sample.window.resize(240, 300);
+        QTRY_COMPARE(sample.bar->page(0)->groups().last()->currentSize(), RibbonControlSizeDefinition::GroupPopup);
+        const QImage narrow = sample.render();
+        RibbonGroup* shrunk = sample.bar->page(0)->groups().last();
+        const QPoint edge = shrunk->mapTo(&sample.window, QPoint(0, shrunk->height() / 2));
+        const bool boxed = QColor(narrow.pixel(edge)) != QColor(narrow.pixel(edge + QPoint(2, 0)));
+        QCOMPARE(boxed, family == "Office 2007");
     }
 
     // Every theme looks like itself: the ribbons of two themes differ clearly.

@@ -10,6 +10,7 @@ namespace Qtitan {
 class CommonStyle;
 namespace detail {
 struct RibbonLook;
+/// The shapes a style draws its ribbon in; read by the ribbon's own widgets.
 const RibbonLook& lookOf(const CommonStyle& style);
 } // namespace detail
 
