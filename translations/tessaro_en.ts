@@ -135,4 +135,35 @@
         <translation>&lt; S E P A R A T O R &gt;</translation>
     </message>
 </context>
+<context>
+    <name>ribbonTreeModel.cpp</name>
+    <message>
+        <source>&lt; Без названия &gt;</source>
+        <translation>&lt; Untitled &gt;</translation>
+    </message>
+    <message>
+        <source>Новая Групповая команда</source>
+        <translation>New Group command</translation>
+    </message>
+    <message>
+        <source>Панели</source>
+        <translation>Panels</translation>
+    </message>
+    <message>
+        <source>Новая Панель</source>
+        <translation>New Panel</translation>
+    </message>
+    <message>
+        <source>Новая Группа</source>
+        <translation>New Group</translation>
+    </message>
+    <message>
+        <source>&lt; Динамическая группа &gt;</source>
+        <translation>&lt; Dynamic group &gt;</translation>
+    </message>
+    <message>
+        <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
+        <translation>&lt; S E P A R A T O R &gt;</translation>
+    </message>
+</context>
 </TS>
