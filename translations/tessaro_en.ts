@@ -129,6 +129,49 @@
     </message>
 </context>
 <context>
+    <name>RibbonTreeItemsEditor.cpp</name>
+    <message>
+        <source>Вид кнопки</source>
+        <translation>Button look</translation>
+    </message>
+    <message>
+        <source>Только иконка</source>
+        <translation>Icon only</translation>
+    </message>
+    <message>
+        <source>Только текст</source>
+        <translation>Text only</translation>
+    </message>
+    <message>
+        <source>Текст возле иконки</source>
+        <translation>Text beside icon</translation>
+    </message>
+    <message>
+        <source>Текст под иконкой</source>
+        <translation>Text under icon</translation>
+    </message>
+    <message>
+        <source>Центровка</source>
+        <translation>Centering</translation>
+    </message>
+    <message>
+        <source>Тип кнопки</source>
+        <translation>Button type</translation>
+    </message>
+    <message>
+        <source>Запоминать активную</source>
+        <translation>Remember the active one</translation>
+    </message>
+    <message>
+        <source>Не запоминать</source>
+        <translation>Do not remember</translation>
+    </message>
+    <message>
+        <source>Делать активной первую</source>
+        <translation>Make the first one active</translation>
+    </message>
+</context>
+<context>
     <name>menuTreeModel.cpp</name>
     <message>
         <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
@@ -164,6 +207,53 @@
     <message>
         <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
         <translation>&lt; S E P A R A T O R &gt;</translation>
+    </message>
+</context>
+<context>
+    <name>ribbonTreeWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Добавить вкладку</source>
+        <translation>Add tab</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Добавить группу</source>
+        <translation>Add group</translation>
+    </message>
+    <message>
+        <source>Добавить команду</source>
+        <translation>Add command</translation>
+    </message>
+    <message>
+        <source>Создать групповую команду</source>
+        <translation>Create group command</translation>
+    </message>
+    <message>
+        <source>Добавить разделитель</source>
+        <translation>Add separator</translation>
+    </message>
+    <message>
+        <source>Переместить выше</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>Переместить ниже</source>
+        <translation>Move down</translation>
+    </message>
+    <message>
+        <source>Удалить</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Параметры</source>
+        <translation>Parameters</translation>
     </message>
 </context>
 </TS>

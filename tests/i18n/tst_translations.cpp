@@ -2,17 +2,22 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QTranslator>
 #include <QtTest>
+
+#include <memory>
 
 // The library's texts are keyed by the bare name of their source file (or by
 // the form's name); an English translator must reach every one of them.
@@ -101,6 +106,61 @@ private slots:
                                        QStringLiteral("Text beside the icon"), QStringLiteral("Text under the icon"),
                                        QStringLiteral("Default")}));
         QVERIFY(toolBar->actions().contains(command));
+    }
+
+    void ribbonTreeTexts()
+    {
+        ui::RibbonBar ribbon(QStringLiteral("tst"));
+        Qtitan::RibbonPage* page = ribbon.addPage(QString());
+        page->addGroup(QStringLiteral("Group"));
+        RibbonTreeModel model(&ribbon);
+        QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Panels"));
+        QCOMPARE(model.data(model.index(0, 0)).toString(), QStringLiteral("< Untitled >"));
+        const QModelIndex added = model.addActionGroup(model.index(0, 0, model.index(0, 0)));
+        QCOMPARE(model.data(added).toString(), QStringLiteral("New Group command"));
+        QCOMPARE(model.data(model.addSeparator(added)).toString(), QStringLiteral("< S E P A R A T O R >"));
+        QCOMPARE(model.data(model.addPanel(QModelIndex())).toString(), QStringLiteral("New Panel"));
+        QCOMPARE(model.data(model.addGroup(model.index(0, 0))).toString(), QStringLiteral("New Group"));
+    }
+
+    void ribbonTreeEditorTexts()
+    {
+        ui::RibbonBar ribbon(QStringLiteral("tst"));
+        Qtitan::RibbonGroup* group = ribbon.addPage(QStringLiteral("Page"))->addGroup(QStringLiteral("Group"));
+        group->addAction(new QAction(QStringLiteral("Command"), group));
+        RibbonTreeModel model(&ribbon);
+        const QModelIndex groupIndex = model.index(0, 0, model.index(0, 0));
+        QList<RibbonTreeItem*> commands{model.item(model.index(0, 0, groupIndex))};
+        ActionItemEditor editor(commands, nullptr);
+        std::unique_ptr<QWidget> widget(editor.editorWidget());
+        QCOMPARE(widget->findChild<QGroupBox*>()->title(), QStringLiteral("Button look"));
+        QStringList radios;
+        for (QRadioButton* radio : widget->findChildren<QRadioButton*>())
+            radios << radio->text();
+        QCOMPARE(radios, (QStringList{"Icon only", "Text only", "Text beside icon", "Text under icon"}));
+
+        GroupItemEditor groupEditor({model.item(groupIndex)}, nullptr);
+        std::unique_ptr<QWidget> groupWidget(groupEditor.editorWidget());
+        QCOMPARE(groupWidget->findChild<QCheckBox*>()->text(), QStringLiteral("Centering"));
+
+        const QModelIndex groupCommand = model.addActionGroup(groupIndex);
+        ActionGroupItemEditor typeEditor({model.item(groupCommand)}, nullptr);
+        std::unique_ptr<QWidget> typeWidget(typeEditor.editorWidget());
+        QCOMPARE(typeWidget->findChild<QGroupBox*>()->title(), QStringLiteral("Button type"));
+        radios.clear();
+        for (QRadioButton* radio : typeWidget->findChildren<QRadioButton*>())
+            radios << radio->text();
+        QCOMPARE(radios, (QStringList{"Remember the active one", "Do not remember", "Make the first one active"}));
+    }
+
+    void ribbonTreeWidgetForm()
+    {
+        QRibbonTreeWidget widget;
+        QCOMPARE(widget.findChild<QToolButton*>(QStringLiteral("addPanel"))->toolTip(), QStringLiteral("Add tab"));
+        QCOMPARE(widget.findChild<QToolButton*>(QStringLiteral("addGroupItem"))->toolTip(),
+                 QStringLiteral("Create group command"));
+        QCOMPARE(widget.findChild<QToolButton*>(QStringLiteral("del"))->toolTip(), QStringLiteral("Delete"));
+        QCOMPARE(widget.findChild<QGroupBox*>(QStringLiteral("paramsBox"))->title(), QStringLiteral("Parameters"));
     }
 
     void untranslatedWithoutTranslator()

@@ -1,0 +1,211 @@
+#pragma once
+
+// The parameter editors of the items selected in the ribbon editor widgets.
+// An editor is made for one selection, builds its widget once, writes every
+// change straight to the ribbon and announces it with paramChanged(). The
+// owner widget makes the editor's widget the editor's QObject parent, so
+// deleting the widget deletes the editor.
+
+#include <tessaro/RibbonControls.h>
+#include <tessaro/TessaroGlobal.h>
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+class QAbstractButton;
+class QButtonGroup;
+class QCheckBox;
+class QLineEdit;
+
+// ---------------------------------------------------------------------------
+// Editors of the ribbon tree (QRibbonTreeWidget)
+
+class QRibbonTreeWidget;
+class RibbonTreeItem;
+
+namespace ui {
+class RibbonBar;
+}
+
+/// The base of the editors of ribbon tree items (RibbonTreeItem). It holds the
+/// selected items (not owned) and the owner's ribbon bar, and its
+/// paramChanged() signal reaches the owner's paramChanged() slot.
+class TESSARO_EXPORT AbstractEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An editor of @p items for @p owner (may be null); the ribbon bar is the
+    /// owner's current one.
+    AbstractEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+    ~AbstractEditor() override;
+
+    /// Builds the editor's widget on the first call and returns the same one
+    /// afterwards; null when the selection has nothing to edit.
+    virtual QWidget* editorWidget() = 0;
+
+    /// The selected items.
+    QList<RibbonTreeItem*> items() const;
+    /// The editor widget that made this editor.
+    QRibbonTreeWidget* owner() const;
+    /// The ribbon bar the items belong to.
+    ui::RibbonBar* ribbonBar() const;
+
+signals:
+    /// A parameter of the items was changed on the ribbon.
+    void paramChanged();
+
+protected:
+    /// The widget of a name editor (ItemNameEditor) of @p items, which owns
+    /// the editor.
+    static QWidget* createNameEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+    /// The widget of a button style editor (ToolButtonStyleEditor) of
+    /// @p items, which owns the editor.
+    static QWidget* createButtonStyleEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+    /// A plain widget whose vertical layout, without margins, holds
+    /// @p children top to bottom.
+    static QWidget* stack(const QList<QWidget*>& children);
+
+    QRibbonTreeWidget* m_owner;
+    QList<RibbonTreeItem*> m_items;
+    ui::RibbonBar* m_ribbonBar;
+    QPointer<QWidget> m_widget;
+};
+
+/// Edits the name of the first item in a line edit of at most 50 characters.
+class TESSARO_EXPORT ItemNameEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// A name editor of the first of @p items.
+    ItemNameEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// A QLineEdit holding the first item's name.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Renames the first item to the typed text (when it was changed), lays
+    /// the current page out again and emits paramChanged().
+    void editingFinished();
+
+private:
+    QPointer<QLineEdit> m_edit;
+};
+
+/// Chooses the button look of commands inside ribbon groups: icon only, text
+/// only, text beside or under the icon.
+class TESSARO_EXPORT ToolButtonStyleEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// A style editor of @p items, commands whose parent items are groups.
+    ToolButtonStyleEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// A group box "Вид кнопки" of four radio buttons; the common style of the
+    /// items is checked, none when they differ.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Gives every item the style @p id (a Qt::ToolButtonStyle), lays the
+    /// current page out again and emits paramChanged().
+    void buttonClicked(int id);
+
+private slots:
+    void onButtonClicked(QAbstractButton* button);
+
+private:
+    QPointer<QButtonGroup> m_buttons;
+};
+
+/// The editor of pages: a name field when one page is selected, nothing for several.
+class TESSARO_EXPORT PanelItemEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of the pages @p items.
+    PanelItemEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// A name editor for one page; null for several.
+    QWidget* editorWidget() override;
+};
+
+/// The editor of groups: a name field when one group is selected, and the
+/// centering of the groups' controls.
+class TESSARO_EXPORT GroupItemEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of the groups @p items.
+    GroupItemEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// A name editor (one group only) above the check box "Центровка",
+    /// checked when every group centres its controls.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Centres the controls of every group (or not) and lays them out again.
+    void centering(bool checked);
+};
+
+/// The editor of commands and dynamic commands: their button look when all
+/// of them stand in groups, nothing otherwise.
+class TESSARO_EXPORT ActionItemEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of the commands @p items.
+    ActionItemEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// A widget holding a button style editor when every item's parent is a
+    /// group; an empty widget otherwise.
+    QWidget* editorWidget() override;
+};
+
+/// The editor of popup widget commands; it behaves as ActionItemEditor.
+class TESSARO_EXPORT PopupWidgetActionItemEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of the popup widget commands @p items.
+    PopupWidgetActionItemEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// As ActionItemEditor::editorWidget().
+    QWidget* editorWidget() override;
+};
+
+/// The editor of group commands: the name of a single one and the kind of
+/// their buttons (ui::GroupButtonType).
+class TESSARO_EXPORT ActionGroupItemEditor : public AbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of the group commands @p items.
+    ActionGroupItemEditor(const QList<RibbonTreeItem*>& items, QRibbonTreeWidget* owner);
+
+    /// For group commands of groups: a name field (one item only, enabled for
+    /// simple buttons) and the group box "Тип кнопки" of three radio buttons.
+    /// For group commands inside menus only the name field of a single one.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Makes every item a simple group button when @p checked.
+    void setSimple(bool checked);
+    /// Makes every item a dynamic group button when @p checked.
+    void setDynamic(bool checked);
+    /// Makes every item a "first is active" group button when @p checked.
+    void setDynamicLite(bool checked);
+
+private:
+    void setType(ui::GroupButtonType type);
+
+    QPointer<QWidget> m_nameWidget;
+};
