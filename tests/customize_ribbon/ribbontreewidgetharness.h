@@ -52,7 +52,7 @@ struct Editor
     // A click on a tree row, with Ctrl or Shift for extended selections.
     void clickRow(const QModelIndex& index, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const
     {
-        view->scrollTo(index);
+        view->scrollTo(index, QAbstractItemView::PositionAtCenter);
         const QRect rect = view->visualRect(index);
         QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, rect.center());
         settle();
