@@ -87,7 +87,14 @@ void tst_RibbonEditorLook::editorOverTheDemoRibbon()
     auto* name = box->findChild<QLineEdit*>();
     QVERIFY(name && name->isVisible());
     QVERIFY(name->mapTo(box, QPoint(0, 0)).y() < box->height() / 4);
-    QCOMPARE(box->findChildren<QRadioButton*>().size(), 3);
+    const QList<QRadioButton*> radios = box->findChildren<QRadioButton*>();
+    QCOMPARE(radios.size(), 3);
+    // Every label is shown whole, on as many lines as the box needs.
+    for (QRadioButton* radio : radios) {
+        QTRY_VERIFY2(radio->sizeHint().width() <= radio->width(), qPrintable(radio->text()));
+        QTRY_VERIFY2(radio->sizeHint().height() <= radio->height(), qPrintable(radio->text()));
+        QVERIFY(radio->geometry().right() < box->contentsRect().right());
+    }
     QVERIFY(view->visualRect(symbol).intersects(view->viewport()->rect()));
 
     const QString shots = qEnvironmentVariable("TESSARO_SCREENSHOT_DIR");

@@ -136,7 +136,7 @@ private slots:
         QCOMPARE(widget->findChild<QGroupBox*>()->title(), QStringLiteral("Button look"));
         QStringList radios;
         for (QRadioButton* radio : widget->findChildren<QRadioButton*>())
-            radios << radio->text();
+            radios << radio->text().replace(QLatin1Char('\n'), QLatin1Char(' '));
         QCOMPARE(radios, (QStringList{"Icon only", "Text only", "Text beside icon", "Text under icon"}));
 
         GroupItemEditor groupEditor({model.item(groupIndex)}, nullptr);
@@ -149,7 +149,7 @@ private slots:
         QCOMPARE(typeWidget->findChild<QGroupBox*>()->title(), QStringLiteral("Button type"));
         radios.clear();
         for (QRadioButton* radio : typeWidget->findChildren<QRadioButton*>())
-            radios << radio->text();
+            radios << radio->text().replace(QLatin1Char('\n'), QLatin1Char(' '));
         QCOMPARE(radios, (QStringList{"Remember the active one", "Do not remember", "Make the first one active"}));
     }
 

@@ -5,6 +5,7 @@
 #include <tessaro/ribbonTreeModel.h>
 
 #include "TessaroTranslate_p.h"
+#include "WrappingRadioButton_p.h"
 
 #include <QtitanRibbon.h>
 
@@ -156,7 +157,7 @@ QWidget* ToolButtonStyleEditor::editorWidget()
         TESSARO_TR("RibbonTreeItemsEditor.cpp", "Текст под иконкой"),
     };
     for (int style = Qt::ToolButtonIconOnly; style <= Qt::ToolButtonTextUnderIcon; ++style) {
-        auto* button = new QRadioButton(texts[style]);
+        auto* button = new WrappingRadioButton(texts[style]);
         m_buttons->addButton(button, style);
         layout->addWidget(button);
     }
@@ -307,13 +308,13 @@ QWidget* ActionGroupItemEditor::editorWidget()
     }
     auto* box = new QGroupBox(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Тип кнопки"));
     auto* layout = new QVBoxLayout(box);
-    auto* dynamic = new QRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Запоминать активную"));
-    auto* simple = new QRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Не запоминать"));
-    auto* dynamicLite = new QRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Делать активной первую"));
+    auto* dynamic = new WrappingRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Запоминать активную"));
+    auto* simple = new WrappingRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Не запоминать"));
+    auto* dynamicLite = new WrappingRadioButton(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Делать активной первую"));
     dynamic->setChecked(!mixed && common == ui::Dynamic);
     simple->setChecked(!mixed && common == ui::Simple);
     dynamicLite->setChecked(!mixed && common == ui::DynamicLite);
-    for (QRadioButton* button : {dynamic, simple, dynamicLite})
+    for (WrappingRadioButton* button : {dynamic, simple, dynamicLite})
         layout->addWidget(button);
     connect(dynamic, &QRadioButton::toggled, this, &ActionGroupItemEditor::setDynamic);
     connect(simple, &QRadioButton::toggled, this, &ActionGroupItemEditor::setSimple);
