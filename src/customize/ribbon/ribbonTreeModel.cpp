@@ -39,7 +39,7 @@ QString newGroupCommandText()
     return TESSARO_TR("ribbonTreeModel.cpp", "Новая Групповая команда");
 }
 
-// The action before which a new entry goes to land at @p row; null appends.
+// The action at @p row, null past the end (QWidget::insertAction then appends).
 QAction* actionAt(const QList<QAction*>& actions, int row)
 {
     return row >= 0 && row < actions.size() ? actions.at(row) : nullptr;
