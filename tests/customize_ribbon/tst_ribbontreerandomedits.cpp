@@ -275,7 +275,7 @@ bool tst_RibbonTreeRandomEdits::edit()
     const auto any = [](const QModelIndex&) { return true; };
 
     int kind = bounded(100);
-    if (size > 260 && kind < 50)
+    if (size > 180 && kind < 50)
         kind = 50 + bounded(12); // mostly deletions while the tree is large
     if (size < 60 && kind >= 50 && kind < 62)
         kind = bounded(50);

@@ -68,9 +68,13 @@ protected:
     /// @p children top to bottom.
     static QWidget* stack(const QList<QWidget*>& children);
 
+    /// The editor widget that made this editor (may be null).
     QRibbonTreeWidget* m_owner;
+    /// The selected items, not owned.
     QList<RibbonTreeItem*> m_items;
+    /// The owner's ribbon bar when the editor was made.
     ui::RibbonBar* m_ribbonBar;
+    /// The built widget, null until editorWidget() builds it.
     QPointer<QWidget> m_widget;
 };
 
