@@ -16,7 +16,6 @@
 
 class QAbstractButton;
 class QButtonGroup;
-class QCheckBox;
 class QLineEdit;
 
 // ---------------------------------------------------------------------------
