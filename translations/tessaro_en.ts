@@ -179,6 +179,21 @@
     </message>
 </context>
 <context>
+    <name>ribbonQuickPanelTreeModel.cpp</name>
+    <message>
+        <source>Новая Групповая команда</source>
+        <translation>New group command</translation>
+    </message>
+    <message>
+        <source>Панель</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>&lt; Р А З Д Е Л И Т Е Л Ь &gt;</source>
+        <translation>&lt; S E P A R A T O R &gt;</translation>
+    </message>
+</context>
+<context>
     <name>ribbonTreeModel.cpp</name>
     <message>
         <source>&lt; Без названия &gt;</source>
