@@ -225,6 +225,45 @@
     </message>
 </context>
 <context>
+    <name>ribbonTreeQuickPanelWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Добавить команду</source>
+        <translation>Add command</translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation>...</translation>
+    </message>
+    <message>
+        <source>Создать групповую команду</source>
+        <translation>Create group command</translation>
+    </message>
+    <message>
+        <source>Добавить разделитель</source>
+        <translation>Add separator</translation>
+    </message>
+    <message>
+        <source>Переместить выше</source>
+        <translation>Move up</translation>
+    </message>
+    <message>
+        <source>Переместить ниже</source>
+        <translation>Move down</translation>
+    </message>
+    <message>
+        <source>Удалить</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Параметры</source>
+        <translation>Parameters</translation>
+    </message>
+</context>
+<context>
     <name>ribbonTreeWidget</name>
     <message>
         <source>Form</source>

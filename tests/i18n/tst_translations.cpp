@@ -163,6 +163,58 @@ private slots:
         QCOMPARE(widget.findChild<QGroupBox*>(QStringLiteral("paramsBox"))->title(), QStringLiteral("Parameters"));
     }
 
+    void quickPanelTreeTexts()
+    {
+        ui::RibbonBar ribbon(QStringLiteral("Host"));
+        QuickPanelRootItem root(ribbon.quickAccessBar());
+        QCOMPARE(root.name(), QStringLiteral("Panel"));
+        RibbonQuickPanelTreeModel model(&ribbon);
+        const QModelIndex separator = model.addSeparator(QModelIndex());
+        QCOMPARE(separator.data().toString(), QStringLiteral("< S E P A R A T O R >"));
+        const QModelIndex group = model.addActionGroup(QModelIndex());
+        QCOMPARE(group.data().toString(), QStringLiteral("New group command"));
+    }
+
+    void quickPanelWidgetForm()
+    {
+        QRibbonTreeQuickPanelWidget page;
+        const QList<QPair<const char*, const char*>> tips = {
+            {"addItem", "Add command"}, {"addGroupItem", "Create group command"},
+            {"addSeparator", "Add separator"}, {"up", "Move up"}, {"down", "Move down"}, {"del", "Delete"}};
+        for (const auto& tip : tips) {
+            auto* button = page.findChild<QToolButton*>(QString::fromLatin1(tip.first));
+            QVERIFY(button);
+            QCOMPARE(button->toolTip(), QString::fromLatin1(tip.second));
+        }
+        auto* box = page.findChild<QGroupBox*>(QStringLiteral("paramsBox"));
+        QVERIFY(box);
+        QCOMPARE(box->title(), QStringLiteral("Parameters"));
+    }
+
+    void quickPanelEditorTexts()
+    {
+        ui::RibbonBar ribbon(QStringLiteral("Host"));
+        RibbonQuickPanelTreeModel model(&ribbon);
+        const QModelIndex group = model.addActionGroup(QModelIndex());
+        const QList<QuickPanelTreeItem*> items = {model.itemForIndex(group)};
+        QuickPanelActionGroupItemEditor groupEditor(items, nullptr);
+        QScopedPointer<QWidget> groupWidget(groupEditor.editorWidget());
+        QCOMPARE(groupWidget->findChild<QGroupBox*>()->title(), QStringLiteral("Button type"));
+        QStringList texts;
+        for (QRadioButton* radio : groupWidget->findChildren<QRadioButton*>())
+            texts.append(radio->text().replace(QLatin1Char('\n'), QLatin1Char(' ')));
+        QCOMPARE(texts, (QStringList{QStringLiteral("Remember the active one"), QStringLiteral("Do not remember"),
+                                     QStringLiteral("Make the first one active")}));
+        QuickPanelToolButtonStyleEditor styleEditor(items, nullptr);
+        QScopedPointer<QWidget> styleWidget(styleEditor.editorWidget());
+        QCOMPARE(styleWidget->findChild<QGroupBox*>()->title(), QStringLiteral("Button look"));
+        texts.clear();
+        for (QRadioButton* radio : styleWidget->findChildren<QRadioButton*>())
+            texts.append(radio->text().replace(QLatin1Char('\n'), QLatin1Char(' ')));
+        QCOMPARE(texts, (QStringList{QStringLiteral("Icon only"), QStringLiteral("Text only"),
+                                     QStringLiteral("Text beside icon"), QStringLiteral("Text under icon")}));
+    }
+
     void untranslatedWithoutTranslator()
     {
         QCoreApplication::removeTranslator(&m_translator);

@@ -1,7 +1,9 @@
 #include <tessaro/RibbonTreeItemsEditor.h>
 
+#include <tessaro/QRibbonTreeQuickPanelWidget.h>
 #include <tessaro/QRibbonTreeWidget.h>
 #include <tessaro/RibbonBar.h>
+#include <tessaro/ribbonQuickPanelTreeModel.h>
 #include <tessaro/ribbonTreeModel.h>
 
 #include "TessaroTranslate_p.h"
@@ -353,5 +355,274 @@ void ActionGroupItemEditor::setType(ui::GroupButtonType type)
         ui::setGroupButtonType(parentGroup(item), actionOf(item), type);
     if (m_ribbonBar)
         m_ribbonBar->updateCurrentPage();
+    emit paramChanged();
+}
+
+// ---------------------------------------------------------------------------
+// Editors of the quick access tree
+
+namespace {
+
+// Only the quick access bar itself is not an action item.
+QuickActionItem* quickActionItem(QuickPanelTreeItem* item)
+{
+    if (!item || item->type() == int(QuickPanelItemType::Root))
+        return nullptr;
+    return static_cast<QuickActionItem*>(item);
+}
+
+QGroupBox* newQuickPanelChoiceBox(const QString& title)
+{
+    auto* box = new QGroupBox(title);
+    new QVBoxLayout(box);
+    return box;
+}
+
+// The parameters box is narrow: long labels break into lines.
+QRadioButton* newQuickPanelChoice(const QString& text, QGroupBox* box)
+{
+    auto* radio = new WrappingRadioButton(text);
+    box->layout()->addWidget(radio);
+    return radio;
+}
+
+// A long name is shown from its start.
+void showName(QLineEdit* edit, const QString& name)
+{
+    edit->setText(name);
+    edit->setCursorPosition(0);
+}
+
+QWidget* newQuickPanelComposite()
+{
+    auto* widget = new QWidget;
+    auto* layout = new QVBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    return widget;
+}
+
+// The name sub-editor's widget, with the sub-editor parented to it.
+QWidget* newQuickPanelNameEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner)
+{
+    auto* editor = new QuickPanelItemNameEditor(items, owner);
+    QWidget* widget = editor->editorWidget();
+    editor->setParent(widget);
+    return widget;
+}
+
+ui::GroupButtonType commonGroupButtonType(const QList<QuickPanelTreeItem*>& items)
+{
+    QuickActionItem* first = quickActionItem(items.value(0));
+    const ui::GroupButtonType type = first ? first->groupButtonType() : ui::Simple;
+    for (QuickPanelTreeItem* item : items) {
+        QuickActionItem* action = quickActionItem(item);
+        if (!action || action->groupButtonType() != type)
+            return ui::Simple;
+    }
+    return type;
+}
+
+} // namespace
+
+QuickPanelAbstractEditor::QuickPanelAbstractEditor(const QList<QuickPanelTreeItem*>& items,
+                                                   QRibbonTreeQuickPanelWidget* owner)
+    : m_owner(owner)
+    , m_items(items)
+    , m_widget(nullptr)
+{
+    if (owner)
+        connect(this, SIGNAL(paramChanged()), owner, SLOT(paramChanged()));
+}
+
+QuickPanelAbstractEditor::~QuickPanelAbstractEditor() = default;
+
+QList<QuickPanelTreeItem*> QuickPanelAbstractEditor::items() const
+{
+    return m_items;
+}
+
+QRibbonTreeQuickPanelWidget* QuickPanelAbstractEditor::owner() const
+{
+    return m_owner;
+}
+
+QuickPanelItemNameEditor::QuickPanelItemNameEditor(const QList<QuickPanelTreeItem*>& items,
+                                                   QRibbonTreeQuickPanelWidget* owner)
+    : QuickPanelAbstractEditor(items, owner)
+{
+}
+
+QWidget* QuickPanelItemNameEditor::editorWidget()
+{
+    if (!m_widget) {
+        auto* edit = new QLineEdit;
+        edit->setMaxLength(50);
+        if (!m_items.isEmpty())
+            showName(edit, m_items.first()->name());
+        connect(edit, SIGNAL(editingFinished()), this, SLOT(editingFinished()));
+        m_widget = edit;
+    }
+    return m_widget;
+}
+
+void QuickPanelItemNameEditor::editingFinished()
+{
+    auto* edit = qobject_cast<QLineEdit*>(m_widget);
+    if (!edit || m_items.isEmpty())
+        return;
+    m_items.first()->setName(edit->text());
+    emit paramChanged();
+}
+
+QuickPanelToolButtonStyleEditor::QuickPanelToolButtonStyleEditor(const QList<QuickPanelTreeItem*>& items,
+                                                                 QRibbonTreeQuickPanelWidget* owner)
+    : QuickPanelAbstractEditor(items, owner)
+    , m_buttons(nullptr)
+{
+}
+
+QWidget* QuickPanelToolButtonStyleEditor::editorWidget()
+{
+    if (m_widget)
+        return m_widget;
+    m_widget = newQuickPanelComposite();
+    QGroupBox* box = newQuickPanelChoiceBox(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Вид кнопки"));
+    m_buttons = new QButtonGroup(box);
+    const QString texts[] = {
+        TESSARO_TR("RibbonTreeItemsEditor.cpp", "Только иконка"),
+        TESSARO_TR("RibbonTreeItemsEditor.cpp", "Только текст"),
+        TESSARO_TR("RibbonTreeItemsEditor.cpp", "Текст возле иконки"),
+        TESSARO_TR("RibbonTreeItemsEditor.cpp", "Текст под иконкой"),
+    };
+    for (int style = Qt::ToolButtonIconOnly; style <= Qt::ToolButtonTextUnderIcon; ++style) {
+        m_buttons->addButton(newQuickPanelChoice(texts[style], box), style);
+    }
+    int common = -1;
+    for (QuickPanelTreeItem* item : qAsConst(m_items)) {
+        QuickActionItem* action = quickActionItem(item);
+        const int style = action ? int(action->buttonStyle()) : -1;
+        if (common == -1)
+            common = style;
+        else if (common != style)
+            common = -2;
+    }
+    if (QAbstractButton* button = m_buttons->button(common))
+        button->setChecked(true);
+    connect(m_buttons, SIGNAL(buttonClicked(QAbstractButton*)), this, SLOT(onButtonClicked(QAbstractButton*)));
+    m_widget->layout()->addWidget(box);
+    return m_widget;
+}
+
+void QuickPanelToolButtonStyleEditor::buttonClicked(int id)
+{
+    for (QuickPanelTreeItem* item : qAsConst(m_items)) {
+        if (QuickActionItem* action = quickActionItem(item))
+            action->setButtonStyle(Qt::ToolButtonStyle(id));
+    }
+    emit paramChanged();
+}
+
+void QuickPanelToolButtonStyleEditor::onButtonClicked(QAbstractButton* button)
+{
+    buttonClicked(m_buttons->id(button));
+}
+
+QuickPanelActionItemEditor::QuickPanelActionItemEditor(const QList<QuickPanelTreeItem*>& items,
+                                                       QRibbonTreeQuickPanelWidget* owner)
+    : QuickPanelAbstractEditor(items, owner)
+{
+}
+
+QWidget* QuickPanelActionItemEditor::editorWidget()
+{
+    if (!m_widget)
+        m_widget = newQuickPanelComposite();
+    return m_widget;
+}
+
+QuickPanelPopupWidgetActionItemEditor::QuickPanelPopupWidgetActionItemEditor(
+    const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner)
+    : QuickPanelAbstractEditor(items, owner)
+{
+}
+
+QWidget* QuickPanelPopupWidgetActionItemEditor::editorWidget()
+{
+    if (!m_widget)
+        m_widget = newQuickPanelComposite();
+    return m_widget;
+}
+
+QuickPanelActionGroupItemEditor::QuickPanelActionGroupItemEditor(const QList<QuickPanelTreeItem*>& items,
+                                                                 QRibbonTreeQuickPanelWidget* owner)
+    : QuickPanelAbstractEditor(items, owner)
+    , m_nameWidget(nullptr)
+{
+}
+
+QWidget* QuickPanelActionGroupItemEditor::editorWidget()
+{
+    if (m_widget)
+        return m_widget;
+    m_widget = newQuickPanelComposite();
+    const ui::GroupButtonType type = commonGroupButtonType(m_items);
+    if (m_items.size() == 1) {
+        // A dynamic group command shows its active command's text, so its
+        // own name is not edited.
+        m_nameWidget = newQuickPanelNameEditor(m_items, m_owner);
+        m_nameWidget->setEnabled(type == ui::Simple);
+        m_widget->layout()->addWidget(m_nameWidget);
+    }
+    QGroupBox* box = newQuickPanelChoiceBox(TESSARO_TR("RibbonTreeItemsEditor.cpp", "Тип кнопки"));
+    struct Choice
+    {
+        QString text;
+        ui::GroupButtonType type;
+        const char* slot;
+    };
+    const Choice choices[] = {
+        {TESSARO_TR("RibbonTreeItemsEditor.cpp", "Запоминать активную"), ui::Dynamic, SLOT(setDynamic(bool))},
+        {TESSARO_TR("RibbonTreeItemsEditor.cpp", "Не запоминать"), ui::Simple, SLOT(setSimple(bool))},
+        {TESSARO_TR("RibbonTreeItemsEditor.cpp", "Делать активной первую"), ui::DynamicLite,
+         SLOT(setDynamicLite(bool))},
+    };
+    for (const Choice& choice : choices) {
+        QRadioButton* radio = newQuickPanelChoice(choice.text, box);
+        radio->setChecked(choice.type == type);
+        connect(radio, SIGNAL(toggled(bool)), this, choice.slot);
+    }
+    m_widget->layout()->addWidget(box);
+    return m_widget;
+}
+
+void QuickPanelActionGroupItemEditor::setSimple(bool checked)
+{
+    if (checked)
+        applyType(ui::Simple);
+}
+
+void QuickPanelActionGroupItemEditor::setDynamic(bool checked)
+{
+    if (checked)
+        applyType(ui::Dynamic);
+}
+
+void QuickPanelActionGroupItemEditor::setDynamicLite(bool checked)
+{
+    if (checked)
+        applyType(ui::DynamicLite);
+}
+
+void QuickPanelActionGroupItemEditor::applyType(ui::GroupButtonType type)
+{
+    if (m_nameWidget) {
+        m_nameWidget->setEnabled(type == ui::Simple);
+        if (auto* edit = qobject_cast<QLineEdit*>(m_nameWidget))
+            showName(edit, m_items.first()->name());
+    }
+    for (QuickPanelTreeItem* item : qAsConst(m_items)) {
+        if (QuickActionItem* action = quickActionItem(item))
+            action->setGroupButtonType(type);
+    }
     emit paramChanged();
 }

@@ -212,3 +212,145 @@ private:
 
     QPointer<QWidget> m_nameWidget;
 };
+
+// ---------------------------------------------------------------------------
+// Editors of the quick access tree (QRibbonTreeQuickPanelWidget)
+
+class QuickPanelTreeItem;
+class QRibbonTreeQuickPanelWidget;
+
+/// Base of the parameter editors of the quick access tree. An editor is made
+/// for one selection of quick access items (not owned), builds its widget
+/// once, writes every change straight to the bar's actions and announces it
+/// with paramChanged(), which reaches the owner's paramChanged() slot. The
+/// owner makes the editor a child of its widget, so deleting the widget
+/// deletes the editor.
+class TESSARO_EXPORT QuickPanelAbstractEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// An editor of @p items for @p owner.
+    QuickPanelAbstractEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+    ~QuickPanelAbstractEditor() override;
+
+    /// Builds the editor's widget on the first call and returns the same
+    /// widget on later calls.
+    virtual QWidget* editorWidget() = 0;
+
+    /// The edited items.
+    QList<QuickPanelTreeItem*> items() const;
+    /// The editor widget that made this editor.
+    QRibbonTreeQuickPanelWidget* owner() const;
+
+signals:
+    /// A parameter of the items was changed.
+    void paramChanged();
+
+protected:
+    /// The editor widget that made this editor; may be null.
+    QRibbonTreeQuickPanelWidget* m_owner;
+    /// The selected items (not owned).
+    QList<QuickPanelTreeItem*> m_items;
+    /// The built widget; null until editorWidget() is first called.
+    QWidget* m_widget;
+};
+
+/// Edits the name of the first item in a line edit of at most 50 characters.
+class TESSARO_EXPORT QuickPanelItemNameEditor : public QuickPanelAbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// A name editor of the first of @p items.
+    QuickPanelItemNameEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+
+    /// A QLineEdit holding the first item's name.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Renames the first item to the line edit's text.
+    void editingFinished();
+};
+
+/// Chooses the tool button style of the items' buttons on the quick access
+/// bar. The quick access editor never makes one: the bar gives its buttons
+/// their look.
+class TESSARO_EXPORT QuickPanelToolButtonStyleEditor : public QuickPanelAbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// A button style editor of @p items.
+    QuickPanelToolButtonStyleEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+
+    /// A "Вид кнопки" box of four radio buttons; the items' common style is checked.
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Gives every item the Qt::ToolButtonStyle @p id.
+    void buttonClicked(int id);
+
+private slots:
+    void onButtonClicked(QAbstractButton* button);
+
+private:
+    QButtonGroup* m_buttons;
+};
+
+/// The editor of plain and dynamic commands of the quick access bar: they
+/// have no parameters, so its widget is empty.
+class TESSARO_EXPORT QuickPanelActionItemEditor : public QuickPanelAbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of @p items.
+    QuickPanelActionItemEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+
+    /// An empty widget.
+    QWidget* editorWidget() override;
+};
+
+/// The editor of popup widget commands of the quick access bar; it behaves
+/// as QuickPanelActionItemEditor.
+class TESSARO_EXPORT QuickPanelPopupWidgetActionItemEditor : public QuickPanelAbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of @p items.
+    QuickPanelPopupWidgetActionItemEditor(const QList<QuickPanelTreeItem*>& items,
+                                          QRibbonTreeQuickPanelWidget* owner);
+
+    /// An empty widget.
+    QWidget* editorWidget() override;
+};
+
+/// The editor of group commands of the quick access bar: the name of a single
+/// group command (editable only while it is a simple one) and its button type.
+class TESSARO_EXPORT QuickPanelActionGroupItemEditor : public QuickPanelAbstractEditor
+{
+    Q_OBJECT
+
+public:
+    /// An editor of @p items.
+    QuickPanelActionGroupItemEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+
+    /// A name field for a single item, then a "Тип кнопки" box of three radio
+    /// buttons with the items' common type checked (simple when they differ).
+    QWidget* editorWidget() override;
+
+public slots:
+    /// Makes every item a simple group command (its button only opens the menu).
+    void setSimple(bool checked);
+    /// Makes every item a split button that remembers the last command used.
+    void setDynamic(bool checked);
+    /// Makes every item a split button whose face is always the first command.
+    void setDynamicLite(bool checked);
+
+private:
+    void applyType(ui::GroupButtonType type);
+
+    QWidget* m_nameWidget;
+};
