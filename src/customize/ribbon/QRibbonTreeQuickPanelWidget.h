@@ -36,6 +36,7 @@ class TESSARO_EXPORT QRibbonTreeQuickPanelWidget : public QWidget
 public:
     /// Builds the form with an empty tree.
     explicit QRibbonTreeQuickPanelWidget(QWidget* parent = nullptr);
+    /// Deletes the form; the ribbon and the chosen command are not owned.
     ~QRibbonTreeQuickPanelWidget() override;
 
     /// Makes @p action (not owned; may be null) the command that "addItem" adds.

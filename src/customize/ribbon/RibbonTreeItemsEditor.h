@@ -232,6 +232,7 @@ class TESSARO_EXPORT QuickPanelAbstractEditor : public QObject
 public:
     /// An editor of @p items for @p owner.
     QuickPanelAbstractEditor(const QList<QuickPanelTreeItem*>& items, QRibbonTreeQuickPanelWidget* owner);
+    /// Leaves the items and the widget alone; the widget owns the editor.
     ~QuickPanelAbstractEditor() override;
 
     /// Builds the editor's widget on the first call and returns the same

@@ -210,6 +210,7 @@ class TESSARO_EXPORT RibbonQuickPanelTreeModel : public QAbstractItemModel
 public:
     /// A model over the quick access bar of @p ribbon (may be null).
     RibbonQuickPanelTreeModel(ui::RibbonBar* ribbon, QObject* parent = nullptr);
+    /// Deletes the items; the bar and its actions stay.
     ~RibbonQuickPanelTreeModel() override;
 
     /// The index of @p parent's child at @p row; invalid when there is none.
