@@ -3,6 +3,8 @@
 #include <tessaro/RibbonBar.h>
 #include <tessaro/RibbonControls.h>
 
+#include "common/IconStreamReader_p.h"
+
 #include <QtitanRibbon.h>
 
 #include <QBuffer>
@@ -10,9 +12,7 @@
 #include <QDataStream>
 #include <QHash>
 #include <QIcon>
-#include <QImage>
 #include <QMenu>
-#include <QPixmap>
 #include <QToolButton>
 #include <QWidgetAction>
 
@@ -22,10 +22,6 @@ namespace {
 
 const char* const popupWidgetProperty = "isPopupWidgetAction";
 const char* const dynamicMenuProperty = "isDynamic";
-
-// Old streams carry icons as PNG images; anything larger than this is not an icon.
-const quint32 maxIconSide = 1024;
-const qint64 maxIconBytes = 16 * 1024 * 1024;
 
 bool hasMore(QDataStream& stream)
 {
@@ -38,117 +34,12 @@ quint32 bigEndian32(const char* bytes)
     return (quint32(b[0]) << 24) | (quint32(b[1]) << 16) | (quint32(b[2]) << 8) | quint32(b[3]);
 }
 
-// Appends @p count bytes of the stream to @p buffer in bounded steps, so that
-// a damaged length cannot make us allocate more than the data holds.
-bool appendRaw(QDataStream& stream, QByteArray& buffer, qint64 count)
+// An icon of an old stream. A refused icon reads as none and costs only
+// itself; one whose end cannot be found stops the reading.
+QIcon readIcon(QDataStream& stream, bool build = true)
 {
-    const qint64 step = 64 * 1024;
-    while (count > 0) {
-        const int block = int(qMin(count, step));
-        const int old = buffer.size();
-        buffer.resize(old + block);
-        const int got = stream.readRawData(buffer.data() + old, block);
-        if (got != block) {
-            buffer.resize(old + qMax(got, 0));
-            stream.setStatus(QDataStream::ReadPastEnd);
-            return false;
-        }
-        count -= block;
-    }
-    return true;
-}
-
-// One image of Qt's QImage stream encoding: a PNG file, read chunk by chunk
-// up to its IEND so that its size is known before it is decoded.
-QImage readPngImage(QDataStream& stream)
-{
-    static const char signature[] = "\x89PNG\r\n\x1a\n";
-    QByteArray png;
-    if (!appendRaw(stream, png, 8))
-        return QImage();
-    if (png != QByteArray(signature, 8)) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return QImage();
-    }
-    bool first = true;
-    for (;;) {
-        if (!appendRaw(stream, png, 8))
-            return QImage();
-        const quint32 length = bigEndian32(png.constData() + png.size() - 8);
-        const QByteArray type = png.right(4);
-        if (length > quint32(maxIconBytes) || png.size() + qint64(length) + 4 > maxIconBytes) {
-            stream.setStatus(QDataStream::ReadCorruptData);
-            return QImage();
-        }
-        const int dataOffset = png.size();
-        if (!appendRaw(stream, png, qint64(length) + 4))
-            return QImage();
-        if (first) {
-            if (type != "IHDR" || length != 13) {
-                stream.setStatus(QDataStream::ReadCorruptData);
-                return QImage();
-            }
-            const quint32 width = bigEndian32(png.constData() + dataOffset);
-            const quint32 height = bigEndian32(png.constData() + dataOffset + 4);
-            if (width == 0 || height == 0 || width > maxIconSide || height > maxIconSide) {
-                stream.setStatus(QDataStream::ReadCorruptData);
-                return QImage();
-            }
-            first = false;
-        }
-        if (type == "IEND")
-            break;
-    }
-    QImage image = QImage::fromData(png, "PNG");
-    if (image.isNull())
-        stream.setStatus(QDataStream::ReadCorruptData);
-    return image;
-}
-
-// Qt's QIcon stream encoding, limited to the engines whose data it can
-// bound: the pixmap engine and themed icons. Other engines mark the stream
-// damaged, since the length of their data is unknown.
-QIcon readIcon(QDataStream& stream)
-{
-    QString key;
-    stream >> key;
-    if (stream.status() != QDataStream::Ok || key.isEmpty())
-        return QIcon();
-    if (key == QLatin1String("QIconLoaderEngine")) {
-        QString name;
-        stream >> name;
-        return stream.status() == QDataStream::Ok ? QIcon::fromTheme(name) : QIcon();
-    }
-    if (key != QLatin1String("QPixmapIconEngine")) {
-        stream.setStatus(QDataStream::ReadCorruptData);
-        return QIcon();
-    }
     QIcon icon;
-    qint32 entries = 0;
-    stream >> entries;
-    for (qint32 i = 0; i < entries && hasMore(stream); ++i) {
-        qint32 notNull = 0;
-        stream >> notNull;
-        QImage image;
-        if (notNull && stream.status() == QDataStream::Ok)
-            image = readPngImage(stream);
-        QString fileName;
-        qint32 width = 0;
-        qint32 height = 0;
-        quint32 mode = 0;
-        quint32 state = 0;
-        stream >> fileName >> width >> height >> mode >> state;
-        if (stream.status() != QDataStream::Ok)
-            break;
-        if (mode > QIcon::Selected || state > QIcon::Off)
-            continue;
-        if (!image.isNull()) {
-            icon.addPixmap(QPixmap::fromImage(image), QIcon::Mode(mode), QIcon::State(state));
-        } else if (fileName.startsWith(QLatin1Char(':'))) {
-            // Only compiled-in images: a stored path must not make us open arbitrary files.
-            icon.addFile(fileName, QSize(width, height), QIcon::Mode(mode), QIcon::State(state));
-        }
-    }
+    IconStreamReader(stream).readIcon(build ? &icon : nullptr);
     return icon;
 }
 
@@ -491,8 +382,10 @@ QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, 
                 bool hasIcon = false;
                 stream >> hasIcon;
                 if (hasIcon) {
-                    const QIcon icon = readIcon(stream);
-                    if (action && stream.status() == QDataStream::Ok)
+                    // The host's action keeps its own icon when the stored one is refused.
+                    QIcon icon;
+                    const IconStreamReader::Outcome outcome = IconStreamReader(stream).readIcon(&icon);
+                    if (action && (outcome == IconStreamReader::Accepted || !icon.isNull()))
                         action->setIcon(icon);
                 }
             }
@@ -556,13 +449,13 @@ void RibbonSerializer::skipActionRecords(QDataStream& stream, qint64 count, int 
                     bool hasIcon = false;
                     stream >> hasIcon;
                     if (hasIcon)
-                        readIcon(stream);
+                        readIcon(stream, false);
                 }
             }
         } else {
             stream >> text;
             if (version < 5)
-                readIcon(stream);
+                readIcon(stream, false);
         }
         qint32 subCount = 0;
         stream >> subCount;

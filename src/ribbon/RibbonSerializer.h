@@ -26,7 +26,11 @@ class RibbonBar;
 /// than maxMenuDepth levels are read over without being built, at most
 /// maxRestoredItems objects are created, and an array
 /// that claims to uncompress to more than maxUncompressedSize bytes is
-/// treated as one that does not uncompress.
+/// treated as one that does not uncompress. Icons of old streams come back
+/// when they are pixmaps (PNG, at most 32,768 pixels a side and 16 M pixels),
+/// plain theme names or compiled-in resources; any other icon is left out and
+/// costs nothing else, unless its length cannot be known (an icon engine of
+/// unknown layout), which ends the reading there.
 class TESSARO_EXPORT RibbonSerializer
 {
 public:

@@ -1,5 +1,8 @@
 #include "StoreValidator_p.h"
 
+#include "common/IconStreamReader_p.h"
+
+#include <QtCore/QDataStream>
 #include <QtCore/QLocale>
 #include <QtCore/QMetaType>
 #include <QtCore/QTimeZone>
@@ -11,9 +14,6 @@ namespace {
 
 // Containers nest no deeper than this; QDataStream decodes them recursively.
 const int maxDepth = 64;
-// Decoded images stay below 16 M pixels (at most 128 MB even at 8 bytes a pixel).
-const quint32 maxImageSide = 32768;
-const quint64 maxImagePixels = quint64(1) << 24;
 // QRegion unites its rectangles one at a time: quadratic in their number.
 const quint32 maxRegionRects = 1024;
 // Qt refuses CBOR nested deeper than 1024; stop well before.
@@ -38,10 +38,9 @@ const int easingLastType = 46;       // QEasingCurve::TCBSpline; Custom is refus
 const quint8 jsonUndefined = 0x80;
 const qint32 regionRects = 10;       // the only region form QRegion writes
 
-bool isSafeName(const QByteArray& name)
+bool isSafeZoneId(const QByteArray& name)
 {
-    // A theme icon name or a time-zone id: looked up on disk, so no way out
-    // of the directories Qt searches.
+    // A time-zone id names a file under the zone database: no way out of it.
     if (name.isEmpty() || name.size() > 128 || name.startsWith('/') || name.contains(".."))
         return false;
     for (char c : name) {
@@ -261,24 +260,6 @@ bool StoreValidator::string()
     return bytes % 2 == 0 && skip(bytes);
 }
 
-bool StoreValidator::asciiString(QByteArray& text, bool& ascii)
-{
-    const quint32 start = m_pos;
-    if (!string())
-        return false;
-    text.clear();
-    ascii = true;
-    if (m_pos - start == 4)
-        return true;  // null or empty
-    for (quint32 p = start + 4; p < m_pos; p += 2) {
-        const quint16 unit = qFromBigEndian<quint16>(m_data + p);
-        if (unit == 0 || unit > 0x7f)
-            ascii = false;
-        text.append(static_cast<char>(unit));
-    }
-    return true;
-}
-
 bool StoreValidator::readString(QString& text)
 {
     const quint32 start = m_pos;
@@ -414,8 +395,7 @@ bool StoreValidator::timeZone()
             .isValid();
     }
     const QByteArray zone = id.toUtf8();
-    // Ids name files under the zone database: no way out of it.
-    return (zone.isEmpty() || isSafeName(zone)) && QTimeZone(zone).isValid();
+    return (zone.isEmpty() || isSafeZoneId(zone)) && QTimeZone(zone).isValid();
 }
 
 bool StoreValidator::easingCurve()
@@ -579,81 +559,17 @@ bool StoreValidator::font()
 
 bool StoreValidator::image()
 {
-    quint32 marker = 0;
-    if (!readU32(marker))
-        return false;
-    return marker == 0 || png();
-}
-
-bool StoreValidator::png()
-{
-    // QImageReader guesses the format from the bytes: accept only PNG (what
-    // QDataStream writes) and bound its size before libpng allocates it.
-    static const char signature[] = "\x89PNG\r\n\x1a\n";
-    if (!need(8) || std::memcmp(m_data + m_pos, signature, 8) != 0)
-        return false;
-    m_pos += 8;
-    bool first = true;
-    for (;;) {
-        quint32 length = 0;
-        if (!readU32(length) || length > 0x7fffffffu || !need(4))
-            return false;
-        const QByteArray type(m_data + m_pos, 4);
-        m_pos += 4;
-        if (first) {
-            if (type != "IHDR" || length != 13 || !need(8))
-                return false;
-            const quint32 width = qFromBigEndian<quint32>(m_data + m_pos);
-            const quint32 height = qFromBigEndian<quint32>(m_data + m_pos + 4);
-            if (width == 0 || height == 0 || width > maxImageSide || height > maxImageSide
-                || quint64(width) * height > maxImagePixels)
-                return false;
-            first = false;
-        }
-        if (!skip(length) || !skip(4))  // data, CRC
-            return false;
-        if (type == "IEND")
-            return true;
-    }
+    return readAsStream([](QDataStream& stream) {
+        return IconStreamReader(stream).readImage(nullptr) == IconStreamReader::Accepted;
+    });
 }
 
 bool StoreValidator::icon()
 {
-    QByteArray key;
-    bool ascii = false;
-    if (!asciiString(key, ascii))
-        return false;
-    if (key.isEmpty())
-        return true;  // a null icon
-    if (!ascii)
-        return false;
-    if (key == "QIconLoaderEngine") {
-        QByteArray name;
-        if (!asciiString(name, ascii))
-            return false;
-        return name.isEmpty() || (ascii && isSafeName(name) && !name.contains('/'));
-    }
-    if (key != "QPixmapIconEngine")
-        return false;  // engines from plugins read formats of their own
-    quint32 count = 0;
-    if (!readU32(count))
-        return false;
-    for (quint32 i = 0; i < count; ++i) {
-        const quint32 imageStart = m_pos;
-        if (!image())
-            return false;
-        const bool nullImage = qFromBigEndian<quint32>(m_data + imageStart) == 0;
-        QByteArray fileName;
-        if (!asciiString(fileName, ascii))
-            return false;
-        // A null pixmap makes Qt load the entry's file: only compiled-in
-        // resources may be named then.
-        if (nullImage && !fileName.isEmpty() && !(ascii && fileName.startsWith(":/")))
-            return false;
-        if (!skip(8 + 4 + 4))  // size, mode, state
-            return false;
-    }
-    return true;
+    // Refused icons are refused here too: QDataStream would load them.
+    return readAsStream([](QDataStream& stream) {
+        return IconStreamReader(stream).readIcon(nullptr) == IconStreamReader::Accepted;
+    });
 }
 
 bool StoreValidator::brush()
@@ -777,5 +693,17 @@ bool StoreValidator::textFormat(int depth)
         if (!skip(4) || !variant(depth + 1))
             return false;
     }
+    return true;
+}
+
+// Hands the rest of the data to @p read as a stream; on success the walk goes
+// on where the stream stopped.
+bool StoreValidator::readAsStream(const std::function<bool(QDataStream&)>& read)
+{
+    const QByteArray rest = QByteArray::fromRawData(m_data + m_pos, static_cast<int>(m_size - m_pos));
+    QDataStream stream(rest);
+    if (!read(stream) || stream.status() != QDataStream::Ok)
+        return false;
+    m_pos += static_cast<quint32>(stream.device()->pos());
     return true;
 }

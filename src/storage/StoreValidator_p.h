@@ -4,6 +4,10 @@
 #include <QtCore/QString>
 #include <QtCore/QtGlobal>
 
+#include <functional>
+
+class QDataStream;
+
 /// Walks the bytes of a stored QMap<QString, QVariant> before QDataStream
 /// decodes them, and accepts them only when every value has the layout Qt 5
 /// writes for a whitelisted type, within sane limits.
@@ -36,7 +40,6 @@ private:
     bool payload(quint32 type, int depth);
     bool string();
     bool readString(QString& text);
-    bool asciiString(QByteArray& text, bool& ascii);
     bool byteArray();
     bool stringList();
     bool byteArrayList();
@@ -54,7 +57,6 @@ private:
     bool jsonValue();
     bool font();
     bool image();
-    bool png();
     bool icon();
     bool brush();
     bool pen();
@@ -64,6 +66,7 @@ private:
     bool cursor();
     bool keySequence();
     bool textFormat(int depth);
+    bool readAsStream(const std::function<bool(QDataStream&)>& read);
 
     char* m_data;
     quint32 m_size;

@@ -124,6 +124,8 @@ private Q_SLOTS:
     void unknownIdentifierIsDropped();
     void versionFourWithIcons();
     void versionZeroWithIcons();
+    void versionFourWithLargeIcons_data();
+    void versionFourWithLargeIcons();
     void translatesStoredTexts();
     void failures();
     void undecompressableArray();
@@ -735,6 +737,59 @@ void tst_RibbonSerializer::versionZeroWithIcons()
     if (QTest::currentTestFailed())
         return;
     checkOldStream(-3);
+}
+
+void tst_RibbonSerializer::versionFourWithLargeIcons_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("1100 x 8") << QSize(1100, 8);
+    QTest::newRow("4000 x 4000") << QSize(4000, 4000);
+    QTest::newRow("32768 x 1, the widest") << QSize(32768, 1);
+    QTest::newRow("4096 x 4096, the most pixels") << QSize(4096, 4096);
+}
+
+void tst_RibbonSerializer::versionFourWithLargeIcons()
+{
+    // Any pixmap icon Qt writes within the settings store's image limits.
+    QFETCH(QSize, size);
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::darkCyan);
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    QObject host;
+    QAction* known = hostAction(&host, QStringLiteral("known"), QStringLiteral("Известная"));
+    IdSerializer serializer(&ribbon);
+    serializer.addHostAction(known);
+    Writer encoded;
+    encoded << QIcon(pixmap);
+    const QByteArray icon = encoded.bytes;
+    Writer w;
+    w << qint32(4) << qint32(1) << QStringLiteral("Страница") << qint32(1) << QStringLiteral("Группа");
+    w.buffer.write(icon);
+    w << false << false << qint32(3);
+    w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("Большая");
+    w.buffer.write(icon);
+    w << qint32(0);
+    w << qint32(0) << qint8(0) << false << QStringLiteral("cmd.known") << QStringLiteral("x") << true;
+    w.buffer.write(icon);
+    w << qint32(0);
+    w << qint32(0) << qint8(0);
+    oldTextRecord(w.stream, QStringLiteral("После"), colorIcon(Qt::green));
+    QBuffer buffer(&w.bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QVERIFY(serializer.restore(buffer));
+
+    Qtitan::RibbonGroup* group = groupAt(ribbon, 0, 0);
+    QCOMPARE(group->icon().availableSizes(), (QList<QSize>{size}));
+    const QList<QAction*> actions = group->actions();
+    QCOMPARE(actions.size(), 3);
+    QCOMPARE(actions[0]->icon().availableSizes(), (QList<QSize>{size}));
+    const QImage restored = actions[0]->icon().pixmap(size).toImage();
+    QCOMPARE(restored.size(), size);
+    QCOMPARE(restored.pixel(size.width() - 1, size.height() - 1), QColor(Qt::darkCyan).rgb());
+    QCOMPARE(actions[1], known);
+    QCOMPARE(known->icon().availableSizes(), (QList<QSize>{size}));
+    QCOMPARE(actions[2]->text(), QStringLiteral("После"));
+    QCOMPARE(iconColor(actions[2]->icon()), QColor(Qt::green).rgb());
 }
 
 void tst_RibbonSerializer::translatesStoredTexts()

@@ -130,8 +130,11 @@ private Q_SLOTS:
     void hugeSubActionCount();
     void uncompressedSizeClaim();
     void itemBudget();
-    void oversizedIconImage();
-    void unknownIconEngine();
+    void refusedIconsCostOnlyThemselves_data();
+    void refusedIconsCostOnlyThemselves();
+    void refusedIconOnQuickBar();
+    void iconWithoutEndStopsReading_data();
+    void iconWithoutEndStopsReading();
     void iconFileNames();
     void damagedStyleValues();
     void sharedMenusSaveBounded();
@@ -400,6 +403,54 @@ QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
     return chunk;
 }
 
+// A well-formed PNG file whose header claims @p width x @p height pixels
+// over a token of image data that does not decode.
+QByteArray pngClaiming(quint32 width, quint32 height)
+{
+    QByteArray header;
+    QDataStream hs(&header, QIODevice::WriteOnly);
+    hs << width << height << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0);
+    QByteArray png("\x89PNG\r\n\x1a\n", 8);
+    png += pngChunk("IHDR", header);
+    png += pngChunk("IDAT", QByteArray(64, 'x'));
+    png += pngChunk("IEND", QByteArray());
+    return png;
+}
+
+// A PNG file of a red image, as Qt writes it.
+QByteArray realPng(int width, int height)
+{
+    QImage image(width, height, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return png;
+}
+
+// Qt's QIcon encoding of a pixmap icon whose one entry holds @p png.
+QByteArray pixmapIconWith(const QByteArray& png)
+{
+    Writer icon;
+    icon << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
+    icon.buffer.write(png);
+    icon << QString() << QSize(16, 16) << quint32(0) << quint32(0);
+    return icon.bytes;
+}
+
+// What Qt 5's SVG icon engine (a plugin) writes: file names, a compressed
+// flag, the compressed documents, then the pixmaps added to the icon.
+QByteArray svgEngineIcon()
+{
+    const QHash<int, QString> files{{0, QStringLiteral("/usr/share/icons/hicolor/scalable/apps/x.svg")}};
+    const QHash<int, QByteArray> documents{{0, qCompress("<svg xmlns='http://www.w3.org/2000/svg'/>")}};
+    const QHash<int, QPixmap> pixmaps{{0, colorIcon(Qt::red).pixmap(8)}};
+    Writer icon;
+    icon << QStringLiteral("svg") << files << qint32(1) << documents << qint32(1) << pixmaps;
+    return icon.bytes;
+}
+
 // An old-version layout whose single text action carries @p iconBytes.
 QByteArray oldStreamWithIcon(const QByteArray& iconBytes)
 {
@@ -415,38 +466,126 @@ QByteArray oldStreamWithIcon(const QByteArray& iconBytes)
 
 } // namespace
 
-void tst_RibbonSerializerHostile::oversizedIconImage()
+void tst_RibbonSerializerHostile::refusedIconsCostOnlyThemselves_data()
 {
-    QByteArray header;
-    QDataStream hs(&header, QIODevice::WriteOnly);
-    hs << quint32(30000) << quint32(30000) << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0);
-    QByteArray png("\x89PNG\r\n\x1a\n", 8);
-    png += pngChunk("IHDR", header);
-    png += pngChunk("IDAT", QByteArray(64, 'x'));
-    png += pngChunk("IEND", QByteArray());
-    Writer icon;
-    icon << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
-    icon.buffer.write(png);
-    icon << QString() << qint32(16) << qint32(16) << quint32(0) << quint32(0);
+    QTest::addColumn<QByteArray>("icon");
+    Writer fileName;
+    fileName << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(0) << QStringLiteral("/etc/passwd")
+             << QSize(16, 16) << quint32(0) << quint32(0);
+    Writer themePath;
+    themePath << QStringLiteral("QIconLoaderEngine") << QStringLiteral("../../../etc/passwd");
+    Writer badMode;
+    badMode << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
+    badMode.buffer.write(realPng(8, 8));
+    badMode << QString() << QSize(8, 8) << quint32(9) << quint32(0);
 
+    QTest::newRow("30000 x 30000 pixels") << pixmapIconWith(pngClaiming(30000, 30000));
+    QTest::newRow("32769 pixels wide") << pixmapIconWith(pngClaiming(32769, 1));
+    QTest::newRow("4097 x 4096 pixels") << pixmapIconWith(pngClaiming(4097, 4096));
+    QTest::newRow("no pixels") << pixmapIconWith(pngClaiming(0, 16));
+    QTest::newRow("image data that does not decode") << pixmapIconWith(pngClaiming(8, 8));
+    QTest::newRow("a file path") << fileName.bytes;
+    QTest::newRow("a theme name with a path") << themePath.bytes;
+    QTest::newRow("an unknown icon mode") << badMode.bytes;
+    QTest::newRow("the SVG engine plugin") << svgEngineIcon();
+}
+
+void tst_RibbonSerializerHostile::refusedIconsCostOnlyThemselves()
+{
+    QFETCH(QByteArray, icon);
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    QObject host;
+    auto* known = new QAction(colorIcon(Qt::magenta), QStringLiteral("Своя"), &host);
+    known->setObjectName(QStringLiteral("known"));
+    IdSerializer serializer(&ribbon);
+    serializer.addHostAction(known);
+
+    // The refused icon as a group's icon, a text action's icon (before its
+    // menu) and an identifier record's icon, each followed by more records.
+    Writer w;
+    w << qint32(4) << qint32(2) << QStringLiteral("Первая") << qint32(2);
+    w << QStringLiteral("Группа");
+    w.buffer.write(icon);
+    w << true << false << qint32(3);
+    w << qint32(2) << qint8(0) << false << QString() << QStringLiteral("Меню");
+    w.buffer.write(icon);
+    w << qint32(2);
+    w << false << QString() << QStringLiteral("Пункт") << colorIcon(Qt::green) << qint32(0);
+    w << true;
+    w << qint32(0) << qint8(0) << false << QStringLiteral("cmd.known") << QStringLiteral("x") << true;
+    w.buffer.write(icon);
+    w << qint32(0);
+    w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("После") << colorIcon(Qt::blue) << qint32(0);
+    w << QStringLiteral("Вторая") << colorIcon(Qt::yellow) << false << false << qint32(0);
+    w << QStringLiteral("Следующая") << qint32(0);
+
+    QVERIFY(restoreLayout(serializer, w.bytes));
+    QCOMPARE(ribbon.pageCount(), 2);
+    QCOMPARE(ribbon.page(1)->title(), QStringLiteral("Следующая"));
+    QCOMPARE(ribbon.page(0)->groupCount(), 2);
+    Qtitan::RibbonGroup* group = ribbon.page(0)->groupAt(0);
+    QVERIFY(group->icon().isNull());
+    QVERIFY(group->isControlsCentering());
+    const QList<QAction*> actions = group->actions();
+    QCOMPARE(actions.size(), 3);
+    QCOMPARE(actions[0]->text(), QStringLiteral("Меню"));
+    QVERIFY(actions[0]->icon().isNull());
+    QCOMPARE(ui::actionButtonStyle(group, actions[0]), Qt::ToolButtonTextBesideIcon);
+    const QList<QAction*> items = actions[0]->menu()->actions();
+    QCOMPARE(items.size(), 2);
+    QCOMPARE(iconColor(items[0]->icon()), QColor(Qt::green).rgb());
+    QVERIFY(items[1]->isSeparator());
+    // The host's action keeps its own icon.
+    QCOMPARE(actions[1], known);
+    QCOMPARE(iconColor(known->icon()), QColor(Qt::magenta).rgb());
+    QCOMPARE(actions[2]->text(), QStringLiteral("После"));
+    QCOMPARE(iconColor(actions[2]->icon()), QColor(Qt::blue).rgb());
+    QCOMPARE(iconColor(ribbon.page(0)->groupAt(1)->icon()), QColor(Qt::yellow).rgb());
+}
+
+void tst_RibbonSerializerHostile::refusedIconOnQuickBar()
+{
     ui::RibbonBar ribbon(QStringLiteral("ctx"));
     ui::RibbonSerializer serializer(&ribbon);
-    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon.bytes)));
-    // Reading stops at the damaged icon; what came before stays.
+    Writer q;
+    q << qint32(4) << qint32(2);
+    q << qint32(0) << qint8(0) << false << QString() << QStringLiteral("Первая");
+    q.buffer.write(svgEngineIcon());
+    q << qint32(0);
+    q << qint32(0) << qint8(0) << false << QString() << QStringLiteral("Вторая") << colorIcon(Qt::blue) << qint32(0);
+    QVERIFY(restoreQuick(serializer, q.bytes));
+    const QList<QAction*> actions = ribbon.quickAccessBar()->actions();
+    QCOMPARE(actions.size(), 2);
+    QVERIFY(actions[0]->icon().isNull());
+    QCOMPARE(actions[1]->text(), QStringLiteral("Вторая"));
+    QCOMPARE(iconColor(actions[1]->icon()), QColor(Qt::blue).rgb());
+}
+
+void tst_RibbonSerializerHostile::iconWithoutEndStopsReading_data()
+{
+    QTest::addColumn<QByteArray>("icon");
+    QByteArray longChunk("\x89PNG\r\n\x1a\n", 8);
+    longChunk += QByteArray::fromHex("7ffffff0") + "IHDR";
+    Writer unknownEngine;
+    unknownEngine << QStringLiteral("MyIconEngine") << QByteArray(100, 'x');
+    QTest::newRow("chunk longer than the data") << pixmapIconWith(longChunk);
+    QTest::newRow("not a PNG file") << pixmapIconWith(QByteArray("P6 20000 20000 255\n"));
+    QTest::newRow("first chunk not a header") << pixmapIconWith(QByteArray("\x89PNG\r\n\x1a\n", 8) + pngChunk("IDAT", "x"));
+    QTest::newRow("an engine of unknown layout") << unknownEngine.bytes;
+}
+
+void tst_RibbonSerializerHostile::iconWithoutEndStopsReading()
+{
+    // Where an icon's end cannot be known, nothing after it can be trusted.
+    QFETCH(QByteArray, icon);
+    ui::RibbonBar ribbon(QStringLiteral("ctx"));
+    ui::RibbonSerializer serializer(&ribbon);
+    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon)));
     QCOMPARE(ribbon.pageCount(), 1);
     QCOMPARE(ribbon.page(0)->groupCount(), 1);
     QVERIFY(ribbon.page(0)->groupAt(0)->actions().isEmpty());
 
-    // A chunk length beyond the data.
-    QByteArray longChunk("\x89PNG\r\n\x1a\n", 8);
-    longChunk += QByteArray::fromHex("7ffffff0") + "IHDR";
-    Writer icon2;
-    icon2 << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
-    icon2.buffer.write(longChunk);
-    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon2.bytes)));
-    QCOMPARE(ribbon.pageCount(), 1);
-
-    // A good icon in the same place is read and the stream stays in step.
+    // The same place with a good icon reads on.
     Writer good;
     good << colorIcon(Qt::green);
     QVERIFY(restoreLayout(serializer, oldStreamWithIcon(good.bytes)));
@@ -454,23 +593,6 @@ void tst_RibbonSerializerHostile::oversizedIconImage()
     QCOMPARE(actions.size(), 2);
     QCOMPARE(iconColor(actions[0]->icon()), QColor(Qt::green).rgb());
     QCOMPARE(actions[1]->text(), QStringLiteral("вторая"));
-}
-
-void tst_RibbonSerializerHostile::unknownIconEngine()
-{
-    Writer icon;
-    icon << QStringLiteral("svg") << QByteArray(100, 'x');
-    ui::RibbonBar ribbon(QStringLiteral("ctx"));
-    ui::RibbonSerializer serializer(&ribbon);
-    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(icon.bytes)));
-    QCOMPARE(ribbon.pageCount(), 1);
-    QVERIFY(ribbon.page(0)->groupAt(0)->actions().isEmpty());
-
-    // A themed icon is just a name.
-    Writer themed;
-    themed << QStringLiteral("QIconLoaderEngine") << QStringLiteral("document-open");
-    QVERIFY(restoreLayout(serializer, oldStreamWithIcon(themed.bytes)));
-    QCOMPARE(ribbon.page(0)->groupAt(0)->actions().size(), 2);
 }
 
 void tst_RibbonSerializerHostile::iconFileNames()

@@ -493,6 +493,15 @@ private slots:
         }
         QTest::newRow("icon naming a file") << icon;
 
+        // Qt's SVG icon engine is a plugin that would parse the documents.
+        QByteArray svgIcon;
+        {
+            QDataStream out(&svgIcon, QIODevice::WriteOnly);
+            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QIcon) << qint8(0) << QStringLiteral("svg")
+                << QHash<int, QString>() << qint32(1) << QHash<int, QByteArray>{{0, qCompress("<svg/>")}} << qint32(0);
+        }
+        QTest::newRow("svg icon engine") << svgIcon;
+
         QByteArray timeZone;
         {
             QDataStream out(&timeZone, QIODevice::WriteOnly);
@@ -673,6 +682,8 @@ private slots:
     void imagesRoundTrip()
     {
         const QImage image = testImage();
+        QImage wide(1100, 8, QImage::Format_ARGB32);
+        wide.fill(QColor(40, 50, 60));
         QByteArray data;
         {
             KeyValueStorage storage(data);
@@ -680,6 +691,7 @@ private slots:
             storage.setValue(QStringLiteral("pixmap"), QPixmap::fromImage(image));
             storage.setValue(QStringLiteral("null image"), QImage());
             storage.setValue(QStringLiteral("icon"), QIcon(QPixmap::fromImage(image)));
+            storage.setValue(QStringLiteral("wide icon"), QIcon(QPixmap::fromImage(wide)));
             storage.setValue(QStringLiteral("brush"), QBrush(image));
             storage.setValue(QStringLiteral("cursor"), QCursor(QPixmap::fromImage(image), 1, 2));
             storage.setValue(QStringLiteral("shape cursor"), QCursor(Qt::IBeamCursor));
@@ -694,6 +706,7 @@ private slots:
         QCOMPARE(storage.value(QStringLiteral("icon")).value<QIcon>().pixmap(4, 3).toImage().convertToFormat(
                      QImage::Format_ARGB32),
                  image);
+        QCOMPARE(storage.value(QStringLiteral("wide icon")).value<QIcon>().availableSizes(), (QList<QSize>{wide.size()}));
         QCOMPARE(storage.value(QStringLiteral("brush")).value<QBrush>().textureImage().convertToFormat(
                      QImage::Format_ARGB32),
                  image);
