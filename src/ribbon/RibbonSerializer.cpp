@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QToolButton>
 #include <QWidgetAction>
+#include <QtEndian>
 
 namespace ui {
 
@@ -28,26 +29,11 @@ bool hasMore(QDataStream& stream)
     return stream.status() == QDataStream::Ok && stream.device() && !stream.device()->atEnd();
 }
 
-quint32 bigEndian32(const char* bytes)
-{
-    const auto* b = reinterpret_cast<const uchar*>(bytes);
-    return (quint32(b[0]) << 24) | (quint32(b[1]) << 16) | (quint32(b[2]) << 8) | quint32(b[3]);
-}
-
-// An icon of an old stream. A refused icon reads as none and costs only
-// itself; one whose end cannot be found stops the reading.
-QIcon readIcon(QDataStream& stream, bool build = true)
-{
-    QIcon icon;
-    IconStreamReader(stream).readIcon(build ? &icon : nullptr);
-    return icon;
-}
-
 QByteArray uncompressBounded(const QByteArray& data)
 {
     if (data.size() < 4)
         return QByteArray();
-    if (bigEndian32(data.constData()) > quint32(RibbonSerializer::maxUncompressedSize))
+    if (qFromBigEndian<quint32>(data.constData()) > quint32(RibbonSerializer::maxUncompressedSize))
         return QByteArray();
     return qUncompress(data);
 }
@@ -96,6 +82,20 @@ struct RibbonSerializer::ReadContext
 struct RibbonSerializer::SaveContext
 {
     int budget = RibbonSerializer::maxSavedMenuEntries;
+};
+
+// The fields of one action record up to its sub-records.
+struct RibbonSerializer::ActionRecord
+{
+    bool separator = false;
+    QString id;
+    QString text;
+    // The host's action for a non-empty identifier.
+    QAction* hostAction = nullptr;
+    QIcon icon;
+    // An identifier record of an old stream carries an icon for the host's action.
+    bool hostIconStored = false;
+    qint32 subCount = 0;
 };
 
 RibbonSerializer::RibbonSerializer(RibbonBar* ribbon)
@@ -195,12 +195,6 @@ QByteArray RibbonSerializer::saveQuickBar()
     return qCompress(buffer.data());
 }
 
-void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action)
-{
-    SaveContext context;
-    saveActionImpl(stream, action, context, 0);
-}
-
 void RibbonSerializer::saveActionImpl(QDataStream& stream, QAction* action, SaveContext& context, int depth)
 {
     const bool separator = action->isSeparator();
@@ -265,7 +259,11 @@ bool RibbonSerializer::restore(QIODevice& device)
         for (qint32 g = 0; g < groupCount && hasMore(stream); ++g) {
             QString groupTitle;
             stream >> groupTitle;
-            const QIcon groupIcon = version < 5 ? readIcon(stream) : QIcon();
+            // Icons of old streams: a refused one costs only itself, one whose
+            // end cannot be found stops the reading.
+            QIcon groupIcon;
+            if (version < 5)
+                IconStreamReader(stream).readIcon(&groupIcon);
             if (stream.status() != QDataStream::Ok || !context.take(stream))
                 break;
             Qtitan::RibbonGroup* group = page->addGroup(groupIcon, translate(groupTitle));
@@ -347,20 +345,43 @@ bool RibbonSerializer::restoreQuickBar(QIODevice& device)
     return true;
 }
 
-QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, int version)
+bool RibbonSerializer::readActionRecord(QDataStream& stream, int version, bool buildIcons,
+                                        ActionRecord& record) const
 {
-    ReadContext context;
-    return loadActionImpl(stream, parent, version, context, 0);
+    stream >> record.separator;
+    if (stream.status() != QDataStream::Ok || record.separator)
+        return stream.status() == QDataStream::Ok;
+    stream >> record.id;
+    QIcon* icon = buildIcons ? &record.icon : nullptr;
+    if (!record.id.isEmpty()) {
+        record.hostAction = getAction(record.id);
+        // A widget action with an identifier is stored without its text.
+        if (!qobject_cast<QWidgetAction*>(record.hostAction)) {
+            stream >> record.text;
+            bool hasIcon = false;
+            if (version >= 1 && version <= 4)
+                stream >> hasIcon;
+            if (hasIcon && stream.status() == QDataStream::Ok) {
+                const IconStreamReader::Outcome outcome = IconStreamReader(stream).readIcon(icon);
+                record.hostIconStored = outcome == IconStreamReader::Accepted || !record.icon.isNull();
+            }
+        }
+    } else {
+        stream >> record.text;
+        if (version < 5 && stream.status() == QDataStream::Ok)
+            IconStreamReader(stream).readIcon(icon);
+    }
+    stream >> record.subCount;
+    return stream.status() == QDataStream::Ok;
 }
 
 QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, int version,
                                           ReadContext& context, int depth)
 {
-    bool separator = false;
-    stream >> separator;
-    if (stream.status() != QDataStream::Ok)
+    ActionRecord record;
+    if (!readActionRecord(stream, version, true, record))
         return nullptr;
-    if (separator) {
+    if (record.separator) {
         if (!context.take(stream))
             return nullptr;
         auto* action = new QAction(parent);
@@ -368,52 +389,28 @@ QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, 
         return action;
     }
 
-    QString id;
-    stream >> id;
     QAction* action = nullptr;
-    if (!id.isEmpty()) {
-        QAction* hostAction = getAction(id);
-        const bool widgetAction = qobject_cast<QWidgetAction*>(hostAction);
-        action = context.place(hostAction);
-        if (!widgetAction) {
-            QString ignoredText;
-            stream >> ignoredText;
-            if (version >= 1 && version <= 4) {
-                bool hasIcon = false;
-                stream >> hasIcon;
-                if (hasIcon) {
-                    // The host's action keeps its own icon when the stored one is refused.
-                    QIcon icon;
-                    const IconStreamReader::Outcome outcome = IconStreamReader(stream).readIcon(&icon);
-                    if (action && (outcome == IconStreamReader::Accepted || !icon.isNull()))
-                        action->setIcon(icon);
-                }
-            }
-        }
-        if (stream.status() != QDataStream::Ok)
-            return nullptr;
+    if (!record.id.isEmpty()) {
+        action = context.place(record.hostAction);
+        if (action && record.hostIconStored)
+            action->setIcon(record.icon);
     } else {
-        QString text;
-        stream >> text;
-        const QIcon icon = version < 5 ? readIcon(stream) : QIcon();
-        if (stream.status() != QDataStream::Ok || !context.take(stream))
+        if (!context.take(stream))
             return nullptr;
-        action = new QAction(icon, translate(text), parent);
+        action = new QAction(record.icon, translate(record.text), parent);
     }
 
-    qint32 subCount = 0;
-    stream >> subCount;
-    if (subCount < 1)
+    if (record.subCount < 1)
         return action;
     if (depth >= maxMenuDepth) {
         // Deeper menus are read over so that the stream stays in step, but not built.
-        skipActionRecords(stream, subCount, version);
+        skipActionRecords(stream, record.subCount, version);
         return action;
     }
     if (!context.take(stream))
         return action;
     auto* menu = new QMenu(parent);
-    for (qint32 i = 0; i < subCount && hasMore(stream); ++i) {
+    for (qint32 i = 0; i < record.subCount && hasMore(stream); ++i) {
         QAction* subAction = loadActionImpl(stream, menu, version, context, depth + 1);
         if (!subAction)
             continue;
@@ -429,38 +426,14 @@ QAction* RibbonSerializer::loadActionImpl(QDataStream& stream, QWidget* parent, 
     return action;
 }
 
-void RibbonSerializer::skipActionRecords(QDataStream& stream, qint64 count, int version)
+void RibbonSerializer::skipActionRecords(QDataStream& stream, qint64 count, int version) const
 {
     // Iterative on purpose: the nesting of the skipped records is unbounded.
-    qint64 pending = count;
-    while (pending > 0 && hasMore(stream)) {
-        --pending;
-        bool separator = false;
-        stream >> separator;
-        if (separator)
-            continue;
-        QString id;
-        stream >> id;
-        QString text;
-        if (!id.isEmpty()) {
-            if (!qobject_cast<QWidgetAction*>(getAction(id))) {
-                stream >> text;
-                if (version >= 1 && version <= 4) {
-                    bool hasIcon = false;
-                    stream >> hasIcon;
-                    if (hasIcon)
-                        readIcon(stream, false);
-                }
-            }
-        } else {
-            stream >> text;
-            if (version < 5)
-                readIcon(stream, false);
-        }
-        qint32 subCount = 0;
-        stream >> subCount;
-        if (subCount > 0)
-            pending += subCount;
+    for (qint64 pending = count; pending > 0 && hasMore(stream); --pending) {
+        ActionRecord record;
+        if (!readActionRecord(stream, version, false, record))
+            return;
+        pending += qMax(record.subCount, 0);
     }
 }
 

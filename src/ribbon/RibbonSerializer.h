@@ -89,13 +89,13 @@ protected:
     virtual QAction* getAction(const QString& id) const;
 
 private:
-    void saveActionImpl(QDataStream& stream, QAction* action);
     struct SaveContext;
     void saveActionImpl(QDataStream& stream, QAction* action, SaveContext& context, int depth);
-    QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version);
     struct ReadContext;
+    struct ActionRecord;
+    bool readActionRecord(QDataStream& stream, int version, bool buildIcons, ActionRecord& record) const;
     QAction* loadActionImpl(QDataStream& stream, QWidget* parent, int version, ReadContext& context, int depth);
-    void skipActionRecords(QDataStream& stream, qint64 count, int version);
+    void skipActionRecords(QDataStream& stream, qint64 count, int version) const;
     QString translate(const QString& text) const;
 
     RibbonBar* m_ribbon;
