@@ -19,6 +19,12 @@ class QIODevice;
 /// pairs) with the stream defaults of the Qt 5 runtime. A missing, truncated
 /// or corrupt source gives an empty store; nothing is ever reported.
 ///
+/// The bytes are checked before Qt decodes them, since a settings file can be
+/// damaged or crafted: Qt's value types are accepted in the layouts Qt writes
+/// and within limits, and values of types the host registered with
+/// qRegisterMetaTypeStreamOperators() are read by the host's own operator.
+/// A value of any other type makes the whole source load as empty.
+///
 /// Not thread-safe. Two storages on the same file do not see each other; the
 /// one destroyed last wins.
 class TESSARO_EXPORT KeyValueStorage : QObject

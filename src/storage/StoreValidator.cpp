@@ -22,6 +22,8 @@ const int cborMaxDepth = 256;
 const quint32 maxKeys = 4;
 
 const quint32 nullLength = 0xffffffffu;
+// Longer names than any C++ type a host would register.
+const quint32 maxTypeNameLength = 1024;
 
 // Values written by Qt 5 with the default stream settings.
 const quint32 sizeofDouble = 8;
@@ -244,10 +246,36 @@ bool StoreValidator::payload(quint32 type, int depth)
         return keySequence();
     case QMetaType::QTextFormat:
         return textFormat(depth);
+    case QMetaType::User:
+        return hostValue();
     default:
-        // User types, types without stream operators and unknown ids.
+        // Types without stream operators and unknown ids.
         return false;
     }
+}
+
+bool StoreValidator::hostValue()
+{
+    // The type's name, then whatever the host's stream operator wrote. The
+    // host's code is trusted with its own values: its operator reads them
+    // here once, and the walk goes on where it stopped.
+    quint32 length = 0;
+    if (!readU32(length) || length == nullLength || length > maxTypeNameLength || !need(length))
+        return false;
+    // QVariant looks the name up as a C string, so up to its first zero byte.
+    const QByteArray name(m_data + m_pos, static_cast<int>(qstrnlen(m_data + m_pos, length)));
+    m_pos += length;
+    const int type = QMetaType::type(name.constData());
+    // A name may also resolve to a built-in type, which would then be decoded
+    // unchecked: those come by their own id or not at all.
+    if (type < QMetaType::User)
+        return false;
+    return readAsStream([type](QDataStream& stream) {
+        void* value = QMetaType::create(type);
+        const bool loaded = QMetaType::load(stream, type, value);
+        QMetaType::destroy(type, value);
+        return loaded;
+    });
 }
 
 bool StoreValidator::string()

@@ -10,7 +10,8 @@ class QDataStream;
 
 /// Walks the bytes of a stored QMap<QString, QVariant> before QDataStream
 /// decodes them, and accepts them only when every value has the layout Qt 5
-/// writes for a whitelisted type, within sane limits.
+/// writes for a whitelisted type, within sane limits, or is of a type the
+/// host registered with stream operators (read by the host's own operator).
 ///
 /// QDataStream trusts the counts it reads (a list count of four billion
 /// reserves memory for four billion elements), decodes images with whatever
@@ -38,6 +39,7 @@ private:
 
     bool variant(int depth);
     bool payload(quint32 type, int depth);
+    bool hostValue();
     bool string();
     bool readString(QString& text);
     bool byteArray();
