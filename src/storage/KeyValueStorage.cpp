@@ -6,6 +6,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QEasingCurve>
 #include <QtCore/QFile>
+#include <QtCore/QSaveFile>
 
 namespace {
 
@@ -24,6 +25,39 @@ QEasingCurve rebuiltCurve(const QEasingCurve& loaded)
     if (curve.overshoot() != loaded.overshoot())
         curve.setOvershoot(loaded.overshoot());
     return curve;
+}
+
+// Decodes a whole store into @p values; false when it does not load.
+bool decodeStore(QByteArray& bytes, QMap<QString, QVariant>& values)
+{
+    // QDataStream trusts what it reads; it only gets bytes that were checked.
+    if (!StoreValidator(bytes).isValid())
+        return false;
+    QDataStream in(bytes);
+    qint32 count = 0;
+    in >> count;
+    for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
+        QString key;
+        QVariant value;
+        in >> key >> value;
+        if (in.status() != QDataStream::Ok)
+            break;
+        if (value.userType() == QMetaType::QEasingCurve)
+            value = rebuiltCurve(value.value<QEasingCurve>());
+        values.insert(key, value);
+    }
+    return in.status() == QDataStream::Ok;
+}
+
+void writeStore(QIODevice& device, const QMap<QString, QVariant>& values)
+{
+    QDataStream out(&device);
+    out << static_cast<qint32>(values.size());
+    // Largest key first, as QDataStream writes a QMap.
+    for (auto it = values.constEnd(); it != values.constBegin();) {
+        --it;
+        out << it.key() << it.value();
+    }
 }
 
 } // namespace
@@ -66,38 +100,27 @@ void KeyValueStorage::readValues(QIODevice* device)
         return;
     QByteArray bytes = device->readAll();
     device->close();
-    // QDataStream trusts what it reads; it only gets bytes that were checked.
-    if (!StoreValidator(bytes).isValid())
-        return;
-
-    QDataStream in(bytes);
-    qint32 count = 0;
-    in >> count;
-    for (qint32 i = 0; i < count && in.status() == QDataStream::Ok; ++i) {
-        QString key;
-        QVariant value;
-        in >> key >> value;
-        if (in.status() != QDataStream::Ok)
-            break;
-        if (value.userType() == QMetaType::QEasingCurve)
-            value = rebuiltCurve(value.value<QEasingCurve>());
-        m_values.insert(key, value);
-    }
     // A partly read store is worse than none.
-    if (in.status() != QDataStream::Ok)
+    if (!decodeStore(bytes, m_values))
         m_values.clear();
 }
 
 void KeyValueStorage::writeValues(QIODevice* device)
 {
-    if (!device->open(QIODevice::WriteOnly))
+    auto* file = qobject_cast<QFile*>(device);
+    if (!file) {
+        if (!device->open(QIODevice::WriteOnly))
+            return;
+        writeStore(*device, m_values);
+        device->close();
         return;
-    QDataStream out(device);
-    out << static_cast<qint32>(m_values.size());
-    // Largest key first, as QDataStream writes a QMap.
-    for (auto it = m_values.constEnd(); it != m_values.constBegin();) {
-        --it;
-        out << it.key() << it.value();
     }
-    device->close();
+    // The previous file stays whole until the new one is complete: QSaveFile
+    // writes a temporary file beside it, flushes it to disk and renames it
+    // over the old one. Anything short of that leaves the old file as it was.
+    QSaveFile saved(file->fileName());
+    if (!saved.open(QIODevice::WriteOnly))
+        return;
+    writeStore(saved, m_values);
+    saved.commit();
 }

@@ -25,6 +25,11 @@ class QIODevice;
 /// qRegisterMetaTypeStreamOperators() are read by the host's own operator.
 /// A value of any other type makes the whole source load as empty.
 ///
+/// A file is replaced atomically: the new content goes to a temporary file
+/// beside it, is flushed to disk and renamed over the old one, so a failed or
+/// interrupted save (a folder that refuses writes, a full disk, a killed
+/// process) leaves the previous file as it was.
+///
 /// Not thread-safe. Two storages on the same file do not see each other; the
 /// one destroyed last wins.
 class TESSARO_EXPORT KeyValueStorage : QObject
