@@ -6,6 +6,7 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QEasingCurve>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 
 namespace {
@@ -60,6 +61,16 @@ void writeStore(QIODevice& device, const QMap<QString, QVariant>& values)
     }
 }
 
+// Keeps a file that did not load under <name>.unreadable, replacing an older
+// one, so that a user or support can still recover what it held.
+bool keepAside(const QString& fileName)
+{
+    const QString aside = fileName + QStringLiteral(".unreadable");
+    QFile::remove(aside);
+    // A file that may not be read can still be moved.
+    return QFile::copy(fileName, aside) || QFile::rename(fileName, aside) || !QFile::exists(fileName);
+}
+
 } // namespace
 
 KeyValueStorage::KeyValueStorage(const QString& fileName, QObject* parent)
@@ -96,13 +107,19 @@ void KeyValueStorage::setValue(const QString& key, const QVariant& value)
 void KeyValueStorage::readValues(QIODevice* device)
 {
     m_values.clear();
-    if (!device->open(QIODevice::ReadOnly))
+    auto* file = qobject_cast<QFile*>(device);
+    if (!device->open(QIODevice::ReadOnly)) {
+        // A file that is there but may not be read is not a missing one.
+        m_unreadableFile = file && QFileInfo(*file).isFile();
         return;
+    }
     QByteArray bytes = device->readAll();
     device->close();
-    // A partly read store is worse than none.
-    if (!decodeStore(bytes, m_values))
+    if (!decodeStore(bytes, m_values)) {
+        // A partly read store is worse than none. An empty file holds nothing to keep.
         m_values.clear();
+        m_unreadableFile = file && !bytes.isEmpty();
+    }
 }
 
 void KeyValueStorage::writeValues(QIODevice* device)
@@ -122,5 +139,8 @@ void KeyValueStorage::writeValues(QIODevice* device)
     if (!saved.open(QIODevice::WriteOnly))
         return;
     writeStore(saved, m_values);
+    // Without a copy kept aside an unreadable file is not replaced.
+    if (m_unreadableFile && !keepAside(file->fileName()))
+        return;
     saved.commit();
 }

@@ -28,7 +28,9 @@ class QIODevice;
 /// A file is replaced atomically: the new content goes to a temporary file
 /// beside it, is flushed to disk and renamed over the old one, so a failed or
 /// interrupted save (a folder that refuses writes, a full disk, a killed
-/// process) leaves the previous file as it was.
+/// process) leaves the previous file as it was. A file that exists but does
+/// not load is kept beside it, with ".unreadable" appended to its name
+/// (replacing an older one), before the first save replaces it.
 ///
 /// Not thread-safe. Two storages on the same file do not see each other; the
 /// one destroyed last wins.
@@ -57,4 +59,6 @@ private:
     QMap<QString, QVariant> m_values;
     QIODevice* m_device;
     bool m_modified = false;
+    // The file exists but did not load: kept aside before it is replaced.
+    bool m_unreadableFile = false;
 };

@@ -1,5 +1,5 @@
-// What a user's settings file survives: a process killed while it saves and
-// a folder that refuses writes.
+// What a user's settings file survives: a process killed while it saves, a
+// folder that refuses writes, and a file that does not load.
 #include <tessaro/KeyValueStorage.h>
 
 #include "rewriterstore.h"
@@ -121,6 +121,13 @@ class tst_KeyValueStorageDurability : public QObject
 private slots:
     void killedWhileSavingLeavesOldOrNewFile();
     void saveIntoRefusingFolderLeavesOldFile();
+    void unreadableFileIsKeptAside_data();
+    void unreadableFileIsKeptAside();
+    void olderKeptFileIsReplaced();
+    void fileThatMayNotBeReadIsKeptAside();
+    void nothingIsKeptAsideWithoutCause_data();
+    void nothingIsKeptAsideWithoutCause();
+    void unreadableFileOnlyReadIsLeftAlone();
 };
 
 void tst_KeyValueStorageDurability::killedWhileSavingLeavesOldOrNewFile()
@@ -226,6 +233,126 @@ void tst_KeyValueStorageDurability::saveIntoRefusingFolderLeavesOldFile()
     // The file itself was writable, but the store never writes into the old file.
     QCOMPARE(readFile(fileName), original);
     QCOMPARE(filesIn(folder), QStringList{QStringLiteral("settings.dat")});
+}
+
+void tst_KeyValueStorageDurability::unreadableFileIsKeptAside_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    const QByteArray good = storeBytes(QStringLiteral("a"), QStringLiteral("something long enough"));
+    QByteArray unknownType;
+    {
+        QDataStream out(&unknownType, QIODevice::WriteOnly);
+        out << qint32(1) << QStringLiteral("a") << quint32(QMetaType::User) << qint8(0) << "NotRegistered" << qint32(5);
+    }
+    QTest::newRow("not a store") << QByteArray("[General]\nwidth=800\n");
+    QTest::newRow("cut short") << good.left(good.size() - 5);
+    QTest::newRow("a type nobody registered") << unknownType;
+}
+
+void tst_KeyValueStorageDurability::unreadableFileIsKeptAside()
+{
+    QFETCH(QByteArray, content);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString fileName = dir.filePath(QStringLiteral("settings.dat"));
+    QVERIFY(writeFile(fileName, content));
+    {
+        KeyValueStorage store(fileName);
+        QVERIFY(!store.value(QStringLiteral("a")).isValid());
+        store.setValue(QStringLiteral("b"), 2);
+    }
+    QCOMPARE(readFile(fileName + QStringLiteral(".unreadable")), content);
+    QCOMPARE(readFile(fileName), storeBytes(QStringLiteral("b"), 2));
+    QCOMPARE(filesIn(dir.path()), (QStringList{QStringLiteral("settings.dat"), QStringLiteral("settings.dat.unreadable")}));
+}
+
+void tst_KeyValueStorageDurability::olderKeptFileIsReplaced()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString fileName = dir.filePath(QStringLiteral("settings.dat"));
+    const QString aside = fileName + QStringLiteral(".unreadable");
+    QVERIFY(writeFile(aside, "kept the first time"));
+    QVERIFY(writeFile(fileName, "damaged the second time"));
+    {
+        KeyValueStorage store(fileName);
+        store.setValue(QStringLiteral("b"), 2);
+    }
+    QCOMPARE(readFile(aside), QByteArray("damaged the second time"));
+    QCOMPARE(readFile(fileName), storeBytes(QStringLiteral("b"), 2));
+    // Once it loads, the next save keeps nothing aside again.
+    QVERIFY(QFile::remove(aside));
+    {
+        KeyValueStorage store(fileName);
+        QCOMPARE(store.value(QStringLiteral("b")), QVariant(2));
+        store.setValue(QStringLiteral("b"), 3);
+    }
+    QVERIFY(!QFile::exists(aside));
+}
+
+void tst_KeyValueStorageDurability::fileThatMayNotBeReadIsKeptAside()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString fileName = dir.filePath(QStringLiteral("settings.dat"));
+    const QByteArray original = storeBytes(QStringLiteral("a"), 1);
+    QVERIFY(writeFile(fileName, original));
+    QVERIFY(QFile::setPermissions(fileName, QFile::WriteOwner));
+    {
+        PermissionsEnforced enforced;
+        QFile probe(fileName);
+        if (probe.open(QIODevice::ReadOnly))
+            QSKIP("This process may read a file without read permission; nothing to test here.");
+        KeyValueStorage store(fileName);
+        QVERIFY(!store.value(QStringLiteral("a")).isValid());
+        store.setValue(QStringLiteral("b"), 2);
+    }
+    const QString aside = fileName + QStringLiteral(".unreadable");
+    QVERIFY(QFile::setPermissions(aside, QFile::ReadOwner | QFile::WriteOwner));
+    QCOMPARE(readFile(aside), original);
+    QCOMPARE(readFile(fileName), storeBytes(QStringLiteral("b"), 2));
+}
+
+void tst_KeyValueStorageDurability::nothingIsKeptAsideWithoutCause_data()
+{
+    QTest::addColumn<bool>("exists");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("a missing file") << false << QByteArray();
+    QTest::newRow("an empty file") << true << QByteArray();
+    QTest::newRow("a store") << true << storeBytes(QStringLiteral("a"), 1);
+    QTest::newRow("a store of negative count") << true << QByteArray("\xff\xff\xff\xfe", 4);
+}
+
+void tst_KeyValueStorageDurability::nothingIsKeptAsideWithoutCause()
+{
+    QFETCH(bool, exists);
+    QFETCH(QByteArray, content);
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString fileName = dir.filePath(QStringLiteral("settings.dat"));
+    if (exists)
+        QVERIFY(writeFile(fileName, content));
+    {
+        KeyValueStorage store(fileName);
+        store.setValue(QStringLiteral("b"), 2);
+    }
+    QCOMPARE(filesIn(dir.path()), QStringList{QStringLiteral("settings.dat")});
+    KeyValueStorage store(fileName);
+    QCOMPARE(store.value(QStringLiteral("b")), QVariant(2));
+}
+
+void tst_KeyValueStorageDurability::unreadableFileOnlyReadIsLeftAlone()
+{
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    const QString fileName = dir.filePath(QStringLiteral("settings.dat"));
+    QVERIFY(writeFile(fileName, "not a store"));
+    {
+        KeyValueStorage store(fileName);
+        QVERIFY(!store.value(QStringLiteral("a")).isValid());
+    }
+    QCOMPARE(readFile(fileName), QByteArray("not a store"));
+    QCOMPARE(filesIn(dir.path()), QStringList{QStringLiteral("settings.dat")});
 }
 
 QTEST_MAIN(tst_KeyValueStorageDurability)
