@@ -6,7 +6,9 @@ function(tessaro_set_compile_options target)
             target_compile_options(${target} PRIVATE /WX)
         endif()
     else()
-        target_compile_options(${target} PRIVATE -Wall -Wextra)
+        # Running off the end of a function that returns a value hands the
+        # caller garbage (a copy of it crashes): never a mere warning.
+        target_compile_options(${target} PRIVATE -Wall -Wextra -Werror=return-type)
         if(TESSARO_WARNINGS_AS_ERRORS)
             target_compile_options(${target} PRIVATE -Werror)
         endif()

@@ -11,29 +11,70 @@
 
 namespace {
 
-// The stream carries no usable function for curves of the plain types (the
-// validator cleared the stale address): give them back their own.
+// A curve of a plain type gets its own function back: the stream carries
+// only the address the function had in the process that wrote it, and the
+// validator cleared that. Spline curves have no function and stay as read.
+// Every "if" has braces, so that a statement dropped from one cannot make
+// the next statement its body.
 QEasingCurve rebuiltCurve(const QEasingCurve& loaded)
 {
     const QEasingCurve::Type type = loaded.type();
-    if (type == QEasingCurve::BezierSpline || type == QEasingCurve::TCBSpline || type == QEasingCurve::Custom)
-        return loaded;
-    QEasingCurve curve(type);
-    if (curve.amplitude() != loaded.amplitude())
+    const bool spline = type == QEasingCurve::BezierSpline || type == QEasingCurve::TCBSpline;
+    QEasingCurve curve = spline ? loaded : QEasingCurve(type);
+    // Only parameters that differ are set: setting one gives a plain curve a configuration.
+    if (curve.amplitude() != loaded.amplitude()) {
         curve.setAmplitude(loaded.amplitude());
-    if (curve.period() != loaded.period())
+    }
+    if (curve.period() != loaded.period()) {
         curve.setPeriod(loaded.period());
-    if (curve.overshoot() != loaded.overshoot())
+    }
+    if (curve.overshoot() != loaded.overshoot()) {
         curve.setOvershoot(loaded.overshoot());
+    }
     return curve;
+}
+
+// Rebuilds every easing curve of a decoded value, in nested lists and maps
+// too. Braces as in rebuiltCurve.
+QVariant withRebuiltCurves(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QEasingCurve:
+        return rebuiltCurve(value.value<QEasingCurve>());
+    case QMetaType::QVariantList: {
+        QVariantList list = value.toList();
+        for (QVariant& item : list) {
+            item = withRebuiltCurves(item);
+        }
+        return list;
+    }
+    case QMetaType::QVariantMap: {
+        QVariantMap map = value.toMap();
+        for (QVariant& item : map) {
+            item = withRebuiltCurves(item);
+        }
+        return map;
+    }
+    case QMetaType::QVariantHash: {
+        QVariantHash hash = value.toHash();
+        for (QVariant& item : hash) {
+            item = withRebuiltCurves(item);
+        }
+        return hash;
+    }
+    default:
+        return value;
+    }
 }
 
 // Decodes a whole store into @p values; false when it does not load.
 bool decodeStore(QByteArray& bytes, QMap<QString, QVariant>& values)
 {
     // QDataStream trusts what it reads; it only gets bytes that were checked.
-    if (!StoreValidator(bytes).isValid())
+    StoreValidator validator(bytes);
+    if (!validator.isValid())
         return false;
+    const bool rebuild = validator.hasEasingCurves();
     QDataStream in(bytes);
     qint32 count = 0;
     in >> count;
@@ -43,9 +84,7 @@ bool decodeStore(QByteArray& bytes, QMap<QString, QVariant>& values)
         in >> key >> value;
         if (in.status() != QDataStream::Ok)
             break;
-        if (value.userType() == QMetaType::QEasingCurve)
-            value = rebuiltCurve(value.value<QEasingCurve>());
-        values.insert(key, value);
+        values.insert(key, rebuild ? withRebuiltCurves(value) : value);
     }
     return in.status() == QDataStream::Ok;
 }

@@ -37,6 +37,9 @@ const int cursorBitmapShape = 24;    // Qt::BitmapCursor
 const int paletteGroups = 3;
 const int paletteRoles = 21;
 const int easingLastType = 46;       // QEasingCurve::TCBSpline; Custom is refused
+const quint32 easingMaxSegments = 10;
+const quint32 sizeofPointF = 2 * sizeofDouble;
+const quint32 sizeofTcbPoint = sizeofPointF + 3 * sizeofDouble;  // point, tension, continuity, bias
 const quint8 jsonUndefined = 0x80;
 const qint32 regionRects = 10;       // the only region form QRegion writes
 
@@ -65,6 +68,7 @@ StoreValidator::StoreValidator(QByteArray& data)
 bool StoreValidator::isValid()
 {
     m_pos = 0;
+    m_easingCurves = false;
     quint32 count = 0;
     if (!readU32(count))
         return false;
@@ -76,6 +80,11 @@ bool StoreValidator::isValid()
             return false;
     }
     return true;
+}
+
+bool StoreValidator::hasEasingCurves() const
+{
+    return m_easingCurves;
 }
 
 bool StoreValidator::need(quint32 bytes) const
@@ -237,7 +246,7 @@ bool StoreValidator::payload(quint32 type, int depth)
     case QMetaType::QPolygon:
         return polygon(8);
     case QMetaType::QPolygonF:
-        return polygon(16);
+        return polygon(sizeofPointF);
     case QMetaType::QRegion:
         return region();
     case QMetaType::QCursor:
@@ -438,12 +447,19 @@ bool StoreValidator::easingCurve()
         return false;
     std::memset(m_data + m_pos, 0, 8);
     m_pos += 8;
+    m_easingCurves = true;
     if (!readU8(hasConfig))
         return false;
     if (!hasConfig)
         return true;
-    // Period, amplitude, overshoot, Bézier points, TCB points.
-    return skip(3 * sizeofDouble) && polygon(16) && polygon(16 + 3 * sizeofDouble);
+    // Period, amplitude, overshoot, Bézier points, TCB points. Qt 5 keeps the
+    // segments of a spline in arrays of ten and writes past them when a
+    // longer curve is evaluated (TCB points turn into one segment fewer).
+    quint32 bezierPoints = 0;
+    quint32 tcbPoints = 0;
+    return skip(3 * sizeofDouble) && readU32(bezierPoints) && bezierPoints <= 3 * easingMaxSegments
+           && skip(bezierPoints * sizeofPointF) && readU32(tcbPoints) && tcbPoints <= easingMaxSegments + 1
+           && skip(tcbPoints * sizeofTcbPoint);
 }
 
 bool StoreValidator::cbor()

@@ -29,6 +29,9 @@ public:
     /// True when the whole store (count, then that many key/value pairs) is
     /// well formed. Bytes after the last entry are ignored, as QDataStream does.
     bool isValid();
+    /// True when an easing curve was met (its stored function address is
+    /// cleared, so the curve must be rebuilt once decoded).
+    bool hasEasingCurves() const;
 
 private:
     bool need(quint32 bytes) const;
@@ -73,4 +76,5 @@ private:
     char* m_data;
     quint32 m_size;
     quint32 m_pos = 0;
+    bool m_easingCurves = false;
 };

@@ -162,6 +162,27 @@ bool loadsEmpty(QByteArray bytes)
     return true;
 }
 
+int easingSentinelCalls = 0;
+
+qreal easingSentinel(qreal progress)
+{
+    ++easingSentinelCalls;
+    return 1 - progress;
+}
+
+// Qt's stream encoding of @p curve with @p address where the address of its
+// function goes.
+QByteArray curveWithAddress(const QEasingCurve& curve, quint64 address)
+{
+    QByteArray bytes;
+    {
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << curve;
+    }
+    qToBigEndian(address, bytes.data() + 1);
+    return bytes;
+}
+
 // A type of the host's own, stored through the stream operators it registers.
 struct Point3
 {
@@ -761,6 +782,15 @@ private slots:
         QTest::newRow("list") << QVariant(QVariantList{1, QStringLiteral("s"), QVariantList{map}, QVariant()});
         QTest::newRow("easing plain") << QVariant(QEasingCurve(QEasingCurve::InOutQuad));
         QTest::newRow("easing with config") << QVariant(QEasingCurve(QEasingCurve::OutElastic));
+        QEasingCurve overshoot(QEasingCurve::InOutBack);
+        overshoot.setOvershoot(2.5);
+        QEasingCurve elastic(QEasingCurve::InElastic);
+        elastic.setAmplitude(2);
+        elastic.setPeriod(0.5);
+        QTest::newRow("easing overshoot") << QVariant(overshoot);
+        QTest::newRow("easing amplitude and period") << QVariant(elastic);
+        QTest::newRow("easing in list and map")
+            << QVariant(QVariantList{QEasingCurve(QEasingCurve::InOutQuad), QVariantMap{{QStringLiteral("c"), overshoot}}});
         QTest::newRow("uuid") << QVariant(QUuid(QStringLiteral("{67c8770b-44f1-410a-ab9a-f9b5446f13ee}")));
         QTest::newRow("json document") << QVariant(QJsonDocument::fromJson("{\"a\":[1,2,{\"b\":null}]}"));
         QTest::newRow("json object") << QVariant(QJsonObject{{QStringLiteral("a"), 1}});
@@ -885,20 +915,89 @@ private slots:
         QVERIFY(loadsEmpty(themeIcon(QStringLiteral("a/b"))));
     }
 
-    void staleEasingFunctionIsNeverCalled()
+    void storedEasingAddressIsNeverCalled_data()
     {
-        // Qt 5 writes the address of a plain curve's function; another process
-        // must not jump to it.
+        QTest::addColumn<QEasingCurve>("curve");
+        QEasingCurve back(QEasingCurve::OutBack);
+        back.setOvershoot(2.5);
+        QEasingCurve bezier(QEasingCurve::BezierSpline);
+        bezier.addCubicBezierSegment(QPointF(0.1, 0.4), QPointF(0.3, 0.9), QPointF(0.5, 0.6));
+        bezier.addCubicBezierSegment(QPointF(0.7, 0.2), QPointF(0.9, 0.8), QPointF(1, 1));
+        QEasingCurve tcb(QEasingCurve::TCBSpline);
+        tcb.addTCBSegment(QPointF(0, 0), 0, 0, 0);
+        tcb.addTCBSegment(QPointF(0.4, 0.7), 0.5, 0.2, -0.1);
+        tcb.addTCBSegment(QPointF(1, 1), 0, 0, 0);
+        QTest::newRow("plain") << QEasingCurve(QEasingCurve::InQuad);
+        QTest::newRow("overshoot") << back;
+        QTest::newRow("elastic") << QEasingCurve(QEasingCurve::OutElastic);
+        QTest::newRow("bezier") << bezier;
+        QTest::newRow("tcb") << tcb;
+    }
+
+    void storedEasingAddressIsNeverCalled()
+    {
+        // Qt 5 streams the address of a curve's function and calls the address
+        // it reads back. A crafted file stores the address of a function of
+        // this very process, so a call shows as a count instead of a crash.
+        QFETCH(QEasingCurve, curve);
+        const QByteArray crafted = curveWithAddress(curve, quintptr(&easingSentinel));
         QByteArray bytes;
         {
             QDataStream out(&bytes, QIODevice::WriteOnly);
-            out << qint32(1) << QStringLiteral("k") << quint32(QMetaType::QEasingCurve) << qint8(0)
-                << quint8(QEasingCurve::InQuad) << quint64(0x4141414141414141ull) << false;
+            out << qint32(2) << QStringLiteral("k") << quint32(QMetaType::QEasingCurve) << qint8(0);
+            out.writeRawData(crafted.constData(), crafted.size());
+            out << QStringLiteral("list") << quint32(QMetaType::QVariantList) << qint8(0) << quint32(2)
+                << quint32(QMetaType::QEasingCurve) << qint8(0);
+            out.writeRawData(crafted.constData(), crafted.size());
+            out << QVariant(3);
         }
+        easingSentinelCalls = 0;
         KeyValueStorage storage(bytes);
-        const auto curve = storage.value(QStringLiteral("k")).value<QEasingCurve>();
-        QCOMPARE(curve.type(), QEasingCurve::InQuad);
-        QCOMPARE(curve.valueForProgress(0.5), 0.25);
+        const QVariantList list = storage.value(QStringLiteral("list")).toList();
+        QCOMPARE(list.size(), 2);
+        QCOMPARE(list[1], QVariant(3));
+        for (const QVariant& loaded : {storage.value(QStringLiteral("k")), list[0]}) {
+            const QEasingCurve copy = loaded.value<QEasingCurve>();
+            QCOMPARE(copy.type(), curve.type());
+            for (qreal progress : {0.1, 0.5, 0.9})
+                QCOMPARE(copy.valueForProgress(progress), curve.valueForProgress(progress));
+        }
+        QCOMPARE(easingSentinelCalls, 0);
+    }
+
+    void longSplineCurvesAreRefused()
+    {
+        // Qt 5 keeps spline segments in arrays of ten and writes past them when
+        // a longer curve is evaluated: such curves never load (and are never
+        // evaluated here).
+        auto bezierOf = [](int segments) {
+            QEasingCurve curve(QEasingCurve::BezierSpline);
+            for (int i = 1; i <= segments; ++i) {
+                const qreal end = qreal(i) / segments;
+                curve.addCubicBezierSegment(QPointF(end - 0.5 / segments, 0.2), QPointF(end, 0.8), QPointF(end, end));
+            }
+            return curve;
+        };
+        auto unfinishedTcbOf = [](int points) {
+            QEasingCurve curve(QEasingCurve::TCBSpline);
+            for (int i = 0; i < points; ++i)
+                curve.addTCBSegment(QPointF(qreal(i) / points, 0.5), 0, 0, 0);
+            return curve;
+        };
+        auto loads = [](const QEasingCurve& curve) {
+            QByteArray data = encode({{QStringLiteral("k"), QVariant::fromValue(curve)}});
+            KeyValueStorage storage(data);
+            return storage.value(QStringLiteral("k")).isValid();
+        };
+        QVERIFY(loads(bezierOf(10)));
+        QCOMPARE(loads(bezierOf(11)), false);
+        QVERIFY(loads(unfinishedTcbOf(11)));
+        QCOMPARE(loads(unfinishedTcbOf(12)), false);
+        QByteArray data = encode({{QStringLiteral("k"), QVariant::fromValue(bezierOf(10))}});
+        KeyValueStorage storage(data);
+        const QEasingCurve ten = bezierOf(10);
+        QCOMPARE(storage.value(QStringLiteral("k")).value<QEasingCurve>().valueForProgress(0.45),
+                 ten.valueForProgress(0.45));
     }
 
     void unwritableFileLosesChangesSilently()
