@@ -620,14 +620,30 @@ private slots:
         QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
     }
 
-    void moderateNestingLoads()
+    void nestingLimitIsPinned_data()
     {
+        QTest::addColumn<bool>("inMaps");
+        QTest::addColumn<int>("levels");
+        QTest::addColumn<bool>("loads");
+        // A value in 64 nested containers is the deepest that loads.
+        QTest::newRow("64 lists") << false << 64 << true;
+        QTest::newRow("65 lists") << false << 65 << false;
+        QTest::newRow("64 maps") << true << 64 << true;
+        QTest::newRow("65 maps") << true << 65 << false;
+    }
+
+    void nestingLimitIsPinned()
+    {
+        QFETCH(bool, inMaps);
+        QFETCH(int, levels);
+        QFETCH(bool, loads);
         QVariant value = 7;
-        for (int i = 0; i < 20; ++i)
-            value = QVariantList{value};
-        QByteArray data = encode({{QStringLiteral("k"), value}});
+        for (int i = 0; i < levels; ++i)
+            value = inMaps ? QVariant(QVariantMap{{QStringLiteral("m"), value}}) : QVariant(QVariantList{value});
+        QByteArray data = encode({{QStringLiteral("k"), value}, {QStringLiteral("a"), 1}});
         KeyValueStorage storage(data);
-        QCOMPARE(storage.value(QStringLiteral("k")), value);
+        QCOMPARE(storage.value(QStringLiteral("a")).isValid(), loads);
+        QCOMPARE(storage.value(QStringLiteral("k")), loads ? value : QVariant());
     }
 
     void hostileValuesAreRefused_data()
@@ -998,6 +1014,37 @@ private slots:
         const QEasingCurve ten = bezierOf(10);
         QCOMPARE(storage.value(QStringLiteral("k")).value<QEasingCurve>().valueForProgress(0.45),
                  ten.valueForProgress(0.45));
+    }
+
+    void coloursOfEverySpecRoundTrip_data()
+    {
+        QTest::addColumn<QColor>("colour");
+        QTest::addColumn<int>("spec");
+        QTest::newRow("invalid") << QColor() << int(QColor::Invalid);
+        QTest::newRow("rgb") << QColor(10, 20, 30, 40) << int(QColor::Rgb);
+        QTest::newRow("hsv") << QColor::fromHsv(200, 100, 50, 25) << int(QColor::Hsv);
+        QTest::newRow("cmyk") << QColor::fromCmyk(1, 2, 3, 4, 5) << int(QColor::Cmyk);
+        QTest::newRow("hsl") << QColor::fromHsl(300, 60, 70, 80) << int(QColor::Hsl);
+        QTest::newRow("extended rgb") << QColor::fromRgbF(1.25, -0.5, 0.5, 0.75) << int(QColor::ExtendedRgb);
+    }
+
+    void coloursOfEverySpecRoundTrip()
+    {
+        QFETCH(QColor, colour);
+        QFETCH(int, spec);
+        QCOMPARE(int(colour.spec()), spec);
+        QByteArray data;
+        {
+            KeyValueStorage storage(data);
+            storage.setValue(QStringLiteral("colour"), colour);
+            storage.setValue(QStringLiteral("brush"), QBrush(colour.isValid() ? colour : QColor(Qt::red)));
+        }
+        KeyValueStorage storage(data);
+        const QColor loaded = storage.value(QStringLiteral("colour")).value<QColor>();
+        QCOMPARE(int(loaded.spec()), spec);
+        QCOMPARE(loaded, colour);
+        if (colour.isValid())
+            QCOMPARE(storage.value(QStringLiteral("brush")).value<QBrush>().color(), colour);
     }
 
     void unwritableFileLosesChangesSilently()
