@@ -2,7 +2,6 @@
 
 #include <QtitanRibbon.h>
 
-#include <QElapsedTimer>
 #include <QMenu>
 #include <QRandomGenerator>
 #include <QtTest>
@@ -116,6 +115,7 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 } // namespace
 
+// What reading these streams costs is measured in bench_serializer.
 class tst_RibbonSerializerHostile : public QObject
 {
     Q_OBJECT
@@ -151,8 +151,6 @@ void tst_RibbonSerializerHostile::hugePageCountWithNothingAfter()
     ui::RibbonSerializer serializer(&ribbon);
     Writer w;
     w << qint32(5) << qint32(0x7fffffff);
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(restoreLayout(serializer, w.bytes));
     QCOMPARE(ribbon.pageCount(), 0);
     QVERIFY(serializer.restore(qCompress(w.bytes)));
@@ -163,7 +161,6 @@ void tst_RibbonSerializerHostile::hugePageCountWithNothingAfter()
     QVERIFY(restoreQuick(serializer, q.bytes));
     QVERIFY(ribbon.quickAccessBar()->actions().isEmpty());
     QVERIFY(serializer.restoreQuickBar(qCompress(q.bytes)));
-    QVERIFY(timer.elapsed() < 5000);
 }
 
 void tst_RibbonSerializerHostile::hugeCountsWithSomeData()
@@ -264,10 +261,7 @@ void tst_RibbonSerializerHostile::deepMenuNesting()
         w.entry(0, 0, Record::plain(QStringLiteral("после")));
         w << QStringLiteral("Вторая") << false << false << qint32(0);
         w << QStringLiteral("Стр 2") << qint32(0);
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(restoreLayout(serializer, w.bytes));
-        QVERIFY(timer.elapsed() < 20000);
         // Deeper levels are read over, so the rest of the stream still comes back.
         QCOMPARE(ribbon.pageCount(), 2);
         QCOMPARE(ribbon.page(0)->groupCount(), 2);
@@ -329,10 +323,7 @@ void tst_RibbonSerializerHostile::hugeSubActionCount()
         deep << false << QString() << QStringLiteral("m") << qint32(1);
     deep << false << QString() << QStringLiteral("m") << qint32(0x7fffffff);
     deep << true << true << false << QString() << QStringLiteral("x") << qint32(0x7fffffff);
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(restoreLayout(serializer, deep.bytes));
-    QVERIFY(timer.elapsed() < 5000);
     QCOMPARE(menuDepth(ribbon.page(0)->groupAt(0)->actions().value(0)), int(ui::RibbonSerializer::maxMenuDepth));
 }
 
@@ -654,11 +645,8 @@ void tst_RibbonSerializerHostile::sharedMenusSaveBounded()
     group->addActions(top);
     ribbon.addQuickAction(top[0]);
     ui::RibbonSerializer serializer(&ribbon);
-    QElapsedTimer timer;
-    timer.start();
     const QByteArray layout = serializer.save();
     const QByteArray quick = serializer.saveQuickBar();
-    QVERIFY(timer.elapsed() < 20000);
     QVERIFY(!layout.isEmpty());
     QVERIFY(!quick.isEmpty());
     // What was written reads back.
@@ -692,14 +680,9 @@ void tst_RibbonSerializerHostile::restoredSharedMenusSaveBounded()
         w.entry(0, 0, Record::ided(id, QString(), all));
     }
     QVERIFY(restoreLayout(serializer, w.bytes));
-    QElapsedTimer timer;
-    timer.start();
     const QByteArray saved = serializer.save();
-    QVERIFY(timer.elapsed() < 20000);
     QVERIFY(qUncompress(saved).size() < 64 * 1024 * 1024);
-    timer.restart();
     QVERIFY(serializer.restore(saved));
-    QVERIFY(timer.elapsed() < 20000);
     // The unfolded menus repeat the host actions past their placement bound,
     // so only the first entry keeps its place.
     QVERIFY(!ribbon.page(0)->groupAt(0)->actions().isEmpty());
@@ -721,10 +704,7 @@ void tst_RibbonSerializerHostile::repeatedHostAction()
         w.entry(2, 1, Record::ided(QStringLiteral("cmd.cmd"), QString(), {Record::plain(QStringLiteral("x"))}));
         w.entry(0, 0, Record::plain(QStringLiteral("после")));
     }
-    QElapsedTimer timer;
-    timer.start();
     QVERIFY(restoreLayout(serializer, w.bytes));
-    QVERIFY(timer.elapsed() < 60000);
     QCOMPARE(ribbon.page(0)->groupCount(), repeats);
     int placed = 0;
     for (int g = 0; g < repeats; ++g) {

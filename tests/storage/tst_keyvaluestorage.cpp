@@ -9,7 +9,6 @@
 #include <QCursor>
 #include <QDateTime>
 #include <QEasingCurve>
-#include <QElapsedTimer>
 #include <QFont>
 #include <QIcon>
 #include <QImage>
@@ -563,7 +562,7 @@ private slots:
         QVERIFY(loadsEmpty(data));
     }
 
-    void hostileCountsReturnQuickly_data()
+    void hostileCountsAreRefused_data()
     {
         QTest::addColumn<QByteArray>("bytes");
         QByteArray hugeCount;
@@ -610,14 +609,12 @@ private slots:
         QTest::newRow("nested 10000 deep") << deep;
     }
 
-    void hostileCountsReturnQuickly()
+    void hostileCountsAreRefused()
     {
+        // What refusing them costs is measured in bench_keyvaluestorage.
         QFETCH(QByteArray, bytes);
         AddressSpaceCap cap;
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(loadsEmpty(bytes));
-        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
     }
 
     void nestingLimitIsPinned_data()
@@ -726,10 +723,7 @@ private slots:
     {
         QFETCH(QByteArray, bytes);
         AddressSpaceCap cap;
-        QElapsedTimer timer;
-        timer.start();
         QVERIFY(loadsEmpty(bytes));
-        QVERIFY(timer.elapsed() < 2000);
         // Whatever was loaded must also write back.
         KeyValueStorage storage(bytes);
         storage.setValue(QStringLiteral("written"), 1);
