@@ -1,10 +1,14 @@
 // Arbitrary bytes as a KeyValueStorage byte array: loading must not crash,
-// hang or allocate without bound, and whatever loads must write back and
-// load again.
+// hang or allocate without bound, whatever loads must write back and load
+// again, and loaded easing curves must evaluate. Two host types with stream
+// operators are registered, as a host would.
 #include <tessaro/KeyValueStorage.h>
+
+#include "keyvaluestorage_host_types.h"
 
 #include <QByteArray>
 #include <QDataStream>
+#include <QEasingCurve>
 #include <QGuiApplication>
 #include <QStringList>
 
@@ -41,6 +45,30 @@ QStringList writtenKeys(const QByteArray& bytes)
     return keys;
 }
 
+// Evaluates every easing curve of a loaded value, in lists and maps too.
+void evaluateCurves(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QEasingCurve:
+        value.value<QEasingCurve>().valueForProgress(0.37);
+        break;
+    case QMetaType::QVariantList:
+        for (const QVariant& item : value.toList())
+            evaluateCurves(item);
+        break;
+    case QMetaType::QVariantMap:
+        for (const QVariant& item : value.toMap())
+            evaluateCurves(item);
+        break;
+    case QMetaType::QVariantHash:
+        for (const QVariant& item : value.toHash())
+            evaluateCurves(item);
+        break;
+    default:
+        break;
+    }
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Missing)
@@ -50,6 +78,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
     // Pixmaps, icons and cursors in a stream need a GUI application.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     new QGuiApplication(*argc, *argv);
+    fuzzhost::registerTypes();
     return 0;
 }
 
@@ -69,8 +98,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     KeyValueStorage again(bytes);
     const QVariant missing = QVariant::fromValue(Missing());
     for (const QString& key : keys) {
-        if (again.value(key, missing).userType() == missing.userType())
+        const QVariant value = again.value(key, missing);
+        if (value.userType() == missing.userType())
             std::abort();
+        evaluateCurves(value);
     }
     return 0;
 }

@@ -1,6 +1,8 @@
 // Writes valid stores, one value type per file plus one with everything, as
-// the starting corpus of fuzz_keyvaluestorage.
+// the starting corpus of fuzz_keyvaluestorage; host types among them.
 #include <tessaro/KeyValueStorage.h>
+
+#include "keyvaluestorage_host_types.h"
 
 #include <QBitArray>
 #include <QBrush>
@@ -33,12 +35,27 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+    fuzzhost::registerTypes();
     if (argc < 2) {
         std::fprintf(stderr, "usage: %s <corpus-dir>\n", argv[0]);
         return 2;
     }
     const QDir dir(QString::fromLocal8Bit(argv[1]));
     dir.mkpath(QStringLiteral("."));
+
+    QEasingCurve overshoot(QEasingCurve::InOutBack);
+    overshoot.setOvershoot(2.5);
+    QEasingCurve bezier(QEasingCurve::BezierSpline);
+    bezier.addCubicBezierSegment(QPointF(0.1, 0.4), QPointF(0.3, 0.9), QPointF(0.5, 0.6));
+    bezier.addCubicBezierSegment(QPointF(0.7, 0.2), QPointF(0.9, 0.8), QPointF(1, 1));
+    QEasingCurve tcb(QEasingCurve::TCBSpline);
+    tcb.addTCBSegment(QPointF(0, 0), 0, 0, 0);
+    tcb.addTCBSegment(QPointF(0.4, 0.7), 0.5, 0.2, -0.1);
+    tcb.addTCBSegment(QPointF(1, 1), 0, 0, 0);
+    const QVariant point = QVariant::fromValue(fuzzhost::Point3{1, -2, 3});
+    const QVariant label = QVariant::fromValue(fuzzhost::Label{QStringLiteral("Заголовок"), true});
+    QImage wide(1100, 8, QImage::Format_ARGB32);
+    wide.fill(QColor(40, 50, 60));
 
     QImage image(3, 2, QImage::Format_ARGB32);
     image.fill(QColor(10, 20, 30, 40));
@@ -78,6 +95,16 @@ int main(int argc, char** argv)
         {QStringLiteral("hash"), hash},
         {QStringLiteral("list"), QVariantList{1, QStringLiteral("s"), QVariantList{map}}},
         {QStringLiteral("easing"), QEasingCurve(QEasingCurve::OutBounce)},
+        {QStringLiteral("easingovershoot"), overshoot},
+        {QStringLiteral("easingbezier"), bezier},
+        {QStringLiteral("easingtcb"), tcb},
+        {QStringLiteral("easinglist"), QVariantList{QEasingCurve(QEasingCurve::InQuad), bezier}},
+        {QStringLiteral("point3"), point},
+        {QStringLiteral("label"), label},
+        {QStringLiteral("hostlist"), QVariantList{point, 7, QVariantMap{{QStringLiteral("l"), label}}}},
+        {QStringLiteral("extendedrgb"), QColor::fromRgbF(1.25, -0.5, 0.5, 0.75)},
+        {QStringLiteral("hsl"), QColor::fromHsl(300, 60, 70, 80)},
+        {QStringLiteral("wideicon"), QIcon(QPixmap::fromImage(wide))},
         {QStringLiteral("uuid"), QUuid::createUuidV5(QUuid(), QStringLiteral("tessaro"))},
         {QStringLiteral("json"), QJsonDocument::fromJson("{\"a\":[1,2,{\"b\":null}]}")},
         {QStringLiteral("cbor"), QVariant::fromValue(QCborValue::fromJsonValue(QJsonValue(QStringLiteral("c"))))},

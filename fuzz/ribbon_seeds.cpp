@@ -13,6 +13,7 @@
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QIcon>
 #include <QPixmap>
 
@@ -56,6 +57,55 @@ QByteArray oldStream(int version)
     s << qint32(0);
     s << qint32(4) << qint8(0) << true;
     return bytes;
+}
+
+// A version 4 stream whose group and text action carry @p icon (Qt's QIcon
+// encoding), followed by another action and another group.
+QByteArray oldStreamWithIcon(const QByteArray& icon)
+{
+    QByteArray bytes;
+    QDataStream s(&bytes, QIODevice::WriteOnly);
+    s << qint32(4) << qint32(1) << QStringLiteral("Иконки") << qint32(2) << QStringLiteral("Группа");
+    s.writeRawData(icon.constData(), icon.size());
+    s << false << false << qint32(2);
+    s << qint32(0) << qint8(0) << false << QString() << QStringLiteral("С иконкой");
+    s.writeRawData(icon.constData(), icon.size());
+    s << qint32(0);
+    s << qint32(0) << qint8(0) << false << QStringLiteral("cmd.0") << QStringLiteral("т") << true;
+    s.writeRawData(icon.constData(), icon.size());
+    s << qint32(0);
+    s << QStringLiteral("Вторая") << QIcon() << false << false << qint32(0);
+    return bytes;
+}
+
+// Icons a version 4 stream may carry: accepted, refused but read over, and
+// one whose end only its engine knows.
+QList<QPair<QString, QByteArray>> storedIcons()
+{
+    auto encoded = [](auto write) {
+        QByteArray bytes;
+        QDataStream s(&bytes, QIODevice::WriteOnly);
+        write(s);
+        return bytes;
+    };
+    QPixmap wide(1100, 8);
+    wide.fill(Qt::darkCyan);
+    return {
+        {QStringLiteral("icon-wide"), encoded([&](QDataStream& s) { s << QIcon(wide); })},
+        {QStringLiteral("icon-theme"),
+         encoded([](QDataStream& s) { s << QStringLiteral("QIconLoaderEngine") << QStringLiteral("document-open"); })},
+        {QStringLiteral("icon-file"), encoded([](QDataStream& s) {
+             s << QStringLiteral("QPixmapIconEngine") << qint32(2) << qint32(0) << QStringLiteral("/etc/passwd")
+               << QSize(16, 16) << quint32(0) << quint32(0) << qint32(0) << QStringLiteral(":/Tessaro/logo.png")
+               << QSize(32, 32) << quint32(0) << quint32(1);
+         })},
+        {QStringLiteral("icon-svg"), encoded([](QDataStream& s) {
+             s << QStringLiteral("svg") << QHash<int, QString>{{0, QStringLiteral("x.svg")}} << qint32(1)
+               << QHash<int, QByteArray>{{0, qCompress("<svg/>")}} << qint32(1)
+               << QHash<int, QPixmap>{{0, colorIcon(Qt::red).pixmap(8)}};
+         })},
+        {QStringLiteral("icon-plugin"), encoded([](QDataStream& s) { s << QStringLiteral("MyIconEngine") << qint32(7); })},
+    };
 }
 
 } // namespace
@@ -149,5 +199,7 @@ int main(int argc, char** argv)
     }
     for (int version : {0, 1, 4})
         writeBoth(root, QStringLiteral("layout"), QStringLiteral("v%1").arg(version), oldStream(version));
+    for (const auto& icon : storedIcons())
+        writeBoth(root, QStringLiteral("layout"), icon.first, oldStreamWithIcon(icon.second));
     return 0;
 }
