@@ -20,8 +20,8 @@ class QIODevice;
 /// or corrupt source gives an empty store; nothing is ever reported.
 ///
 /// The bytes are checked before Qt decodes them, since a settings file can be
-/// damaged or crafted: Qt's value types are accepted in the layouts Qt writes
-/// and within limits, and values of types the host registered with
+/// damaged or crafted: Qt's value types (all but QColorSpace) are accepted in
+/// the layouts Qt writes and within limits, and values of types the host registered with
 /// qRegisterMetaTypeStreamOperators() are read by the host's own operator.
 /// A value of any other type makes the whole source load as empty.
 ///
