@@ -2,8 +2,6 @@
 
 #include <tessaro/QuickSearch.h>
 
-#include <QtitanRibbon.h>
-
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -23,59 +21,6 @@ namespace demo {
 namespace {
 
 const char* const toolBarName = "quickSearchToolBar";
-
-// Keeps the box at the right end of the ribbon's tab row. The ribbon lays out
-// its tabs itself, so a corner widget of the underlying QMenuBar would be
-// placed by QMenuBar's own rules and land in the title area.
-class RibbonPlacement : public QObject
-{
-public:
-    RibbonPlacement(Qtitan::RibbonBar* ribbon, ui::QuickSearchWidget* box)
-        : QObject(box)
-        , m_ribbon(ribbon)
-        , m_box(box)
-    {
-        ribbon->installEventFilter(this);
-        place();
-    }
-
-    Qtitan::RibbonBar* ribbon() const { return m_ribbon; }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched == m_ribbon) {
-            switch (event->type()) {
-            case QEvent::Resize:
-            case QEvent::Show:
-            case QEvent::LayoutRequest:
-            case QEvent::StyleChange:
-            case QEvent::FontChange:
-                place();
-                break;
-            default:
-                break;
-            }
-        }
-        return false;
-    }
-
-    void place()
-    {
-        const QSize hint = m_box->sizeHint();
-        // The tab row: where the first tab is, else the top of the bar.
-        const QRect tab = m_ribbon->pageCount() > 0 ? m_ribbon->tabRect(0) : QRect();
-        const int rowTop = tab.isValid() ? tab.top() : 0;
-        const int rowHeight = tab.isValid() ? tab.height() : hint.height();
-        const int height = qMin(hint.height(), qMax(rowHeight - 2, 16));
-        m_box->setGeometry(m_ribbon->width() - hint.width() - 6, rowTop + (rowHeight - height) / 2, hint.width(),
-                           height);
-        m_box->raise();
-    }
-
-private:
-    Qtitan::RibbonBar* m_ribbon;
-    ui::QuickSearchWidget* m_box;
-};
 
 // When the window's menu widget is replaced, the old one is hidden and then
 // deleted with its children: take the box out first and place it again once
@@ -133,13 +78,6 @@ HostWatch* hostWatch(QMainWindow* window, ui::QuickSearchWidget* box)
 
 void removeOldPlacement(QMainWindow* window, ui::QuickSearchWidget* box)
 {
-    // Not a Q_OBJECT class: findChild() would take any child for it.
-    for (QObject* child : box->children()) {
-        if (auto* placement = dynamic_cast<RibbonPlacement*>(child)) {
-            delete placement;
-            break;
-        }
-    }
     if (auto* bar = window->findChild<QToolBar*>(QLatin1String(toolBarName))) {
         box->setParent(window);
         delete bar;
@@ -181,15 +119,9 @@ void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box)
     QWidget* menuWidget = window->menuWidget();
     hostWatch(window, box)->watch(menuWidget);
 
-    if (auto* ribbon = qobject_cast<Qtitan::RibbonBar*>(menuWidget)) {
-        box->setParent(ribbon);
-        new RibbonPlacement(ribbon, box);
-        box->show();
-        return;
-    }
-
-    // A plain menu bar, or one inside the menu widget (the shell's menu bar
-    // puts a real QMenuBar beside its corner strip).
+    // The ribbon (itself a QMenuBar) keeps the box at the right end of its tab
+    // row; a plain menu bar, or one inside the menu widget (the shell's menu
+    // bar puts a real QMenuBar beside its corner strip), at its right end.
     QMenuBar* bar = qobject_cast<QMenuBar*>(menuWidget);
     if (!bar && menuWidget)
         bar = menuWidget->findChild<QMenuBar*>();

@@ -9,10 +9,10 @@
 #include "RibbonBar_p.h"
 #include "RibbonColors_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScrollButton_p.h"
+#include "RibbonTabRowLayout_p.h"
 
 #include <QAction>
-#include <algorithm>
-#include <climits>
 #include <QApplication>
 #include <QHash>
 #include <QHelpEvent>
@@ -24,12 +24,38 @@
 namespace Qtitan {
 
 namespace {
-constexpr int TabPadding = 14;
-constexpr int MinTabPadding = 5;
-constexpr int TabSpacing = 2;
+using TabRow = detail::RibbonTabRowLayout;
 constexpr int TabTopGap = 3;
 constexpr int FirstTabGap = 4;
 constexpr int QuickAccessMargin = 4;
+constexpr int CornerMargin = 4; ///< between the corner widget and the bar's right edge
+
+// The narrowest a corner widget may become: its minimum width, else its
+// minimum size hint. (Its size policy is for layouts; QMenuBar gives it its
+// size hint whatever the policy, and the ribbon narrows it only when short of room.)
+int cornerMinimumWidth(const QWidget* widget)
+{
+    const int preferred = qBound(widget->minimumWidth(), widget->sizeHint().width(), widget->maximumWidth());
+    if (widget->minimumWidth() > 0)
+        return widget->minimumWidth();
+    const QSize minimum = widget->minimumSizeHint();
+    return minimum.isValid() ? qMin(minimum.width(), preferred) : preferred;
+}
+
+int cornerPreferredWidth(const QWidget* widget)
+{
+    return qBound(widget->minimumWidth(), widget->sizeHint().width(), widget->maximumWidth());
+}
+
+// A title shortened to its first two letters and an ellipsis, or the whole
+// title when that is shorter. (One pixel more: eliding measures a little wider.)
+int minimumTitleWidth(const QFontMetrics& metrics, const QString& title)
+{
+    const int whole = metrics.horizontalAdvance(title);
+    if (title.size() <= 2)
+        return whole;
+    return qMin(whole, metrics.horizontalAdvance(title.left(2) + QChar(0x2026)) + 1);
+}
 } // namespace
 
 class RibbonBar::Private
@@ -51,12 +77,26 @@ public:
     bool minimized = false;
     int hoverTab = -1;
     bool restoredByPress = false;
-    QVector<QRect> tabRects;
+    QVector<QRect> tabRects;    ///< in the bar's coordinates; scrolled tabs lie outside tabViewport
     QVector<int> tabTextWidths; ///< room for each title; a shorter one than the title's is elided
+    QRect tabViewport;          ///< the part of the tab row that shows tabs
+    int firstVisibleTab = 0;    ///< the first tab in sight while the tabs scroll
+    detail::RibbonScrollButton* tabScrollLeft = nullptr;
+    detail::RibbonScrollButton* tabScrollRight = nullptr;
+    QRect cornerRect;     ///< where the corner widget goes
+    bool cornerLaidOut = false;
+    bool cornerSetAside = false; ///< the ribbon hid the corner widget for want of room
+    bool settingCornerAside = false;
 
     static QString pageTitle(const RibbonPage* page)
     {
         return page ? page->title() : QString();
+    }
+
+    /// A page title as the tab shows it, without mnemonic ampersands.
+    static QString tabText(const RibbonPage* page)
+    {
+        return detail::labelText(pageTitle(page));
     }
 
     bool quickAccessShown() const
@@ -108,74 +148,183 @@ public:
 
     int tabAt(const QPoint& pos) const
     {
+        // The whole height of the tab row counts, so the tabs are easy to hit.
+        if (!tabViewport.contains(pos))
+            return -1;
         for (int i = 0; i < tabRects.size(); ++i) {
-            // The whole height of the tab row counts, so the tabs are easy to hit.
-            QRect hit = tabRects.at(i);
-            hit.setTop(titleHeight());
-            if (hit.contains(pos))
+            const QRect& tab = tabRects.at(i);
+            if (pos.x() >= tab.left() && pos.x() <= tab.right())
                 return i;
         }
         return -1;
     }
 
+    /// The corner widget, unless its host hid it.
+    QWidget* visibleCornerWidget() const
+    {
+        QWidget* corner = q->cornerWidget(Qt::TopRightCorner);
+        return corner && (!corner->isHidden() || cornerSetAside) ? corner : nullptr;
+    }
+
     void layout()
     {
-        const QFontMetrics metrics(q->font());
-        const int width = q->width();
+        layoutTitleStrip();
+        layoutTabRow();
+        layoutPages();
+        updateQuickAccessPalette();
+    }
+
+    void layoutTitleStrip()
+    {
+        if (!quickAccessShown())
+            return;
         const int title = titleHeight();
-        if (quickAccessShown()) {
-            const QSize hint = quickAccessBar->sizeHint();
-            const int x = frameTheme ? titleIconRect().right() + 6 : QuickAccessMargin;
-            quickAccessBar->setGeometry(x, (title - hint.height()) / 2, qMax(0, qMin(hint.width(), width - x)),
-                                        hint.height());
+        const QSize hint = quickAccessBar->sizeHint();
+        const int x = frameTheme ? titleIconRect().right() + 6 : QuickAccessMargin;
+        quickAccessBar->setGeometry(x, (title - hint.height()) / 2, qMax(0, qMin(hint.width(), q->width() - x)),
+                                    hint.height());
+    }
+
+    TabRow::Input tabRowInput(int available) const
+    {
+        const QFontMetrics metrics(q->font());
+        TabRow::Input input;
+        input.available = available;
+        for (const RibbonPage* page : pages) {
+            const QString text = tabText(page);
+            input.textWidths.append(metrics.horizontalAdvance(text));
+            input.minimumTextWidths.append(minimumTitleWidth(metrics, text));
         }
-        const int tabTop = title;
-        const int tabHeightValue = tabHeight();
-        int x = 0;
+        if (const QWidget* corner = visibleCornerWidget()) {
+            input.cornerPreferred = cornerPreferredWidth(corner);
+            input.cornerMinimum = cornerMinimumWidth(corner);
+        }
+        return input;
+    }
+
+    void layoutTabRow()
+    {
+        const int top = titleHeight();
+        const int height = tabHeight();
+        int left = 0;
         if (systemButton) {
             const QSize hint = systemButton->sizeHint();
-            systemButton->setGeometry(0, tabTop, hint.width(), tabHeightValue);
-            x = hint.width();
+            systemButton->setGeometry(0, top, hint.width(), height);
+            left = hint.width();
         }
-        x += FirstTabGap;
+        left += FirstTabGap;
+        const int right = q->width() - CornerMargin;
+        const TabRow row = TabRow::compute(tabRowInput(right - left));
+        placeCorner(row, right);
+
+        const int arrow = row.scrolls ? int(TabRow::ArrowWidth) : 0;
+        tabViewport = QRect(left + arrow, top, qMax(0, row.tabRoom - 2 * arrow), height);
+        firstVisibleTab = row.scrolls ? qBound(0, firstVisibleTab, lastFirstTab(row)) : 0;
+        int x = tabViewport.left();
+        for (int i = 0; i < firstVisibleTab; ++i)
+            x -= row.tabWidths.at(i) + TabRow::Spacing;
         tabRects.clear();
-        // Tabs narrow when the row is short: first the padding goes, then the
-        // widest titles are elided down to a common width.
-        QVector<int> textWidths;
-        for (const RibbonPage* page : qAsConst(pages))
-            textWidths.append(metrics.horizontalAdvance(QString(pageTitle(page)).remove(QLatin1Char('&'))));
-        const int available = width - x - FirstTabGap;
-        const int count = textWidths.size();
-        auto rowWidth = [&](int padding, int cap) {
-            int total = 0;
-            for (int w : textWidths)
-                total += qMin(w, cap) + 2 * padding + TabSpacing;
-            return total;
-        };
-        int padding = TabPadding;
-        while (padding > MinTabPadding && rowWidth(padding, INT_MAX) > available)
-            --padding;
-        int cap = INT_MAX;
-        if (count > 0 && rowWidth(padding, INT_MAX) > available) {
-            int low = 0;
-            int high = *std::max_element(textWidths.cbegin(), textWidths.cend());
-            while (low < high) {
-                const int mid = (low + high + 1) / 2;
-                if (rowWidth(padding, mid) <= available)
-                    low = mid;
-                else
-                    high = mid - 1;
+        for (int width : row.tabWidths) {
+            tabRects.append(QRect(x, top + TabTopGap, width, height - TabTopGap));
+            x += width + TabRow::Spacing;
+        }
+        tabTextWidths = row.textWidths;
+        layoutTabScrollArrows(row.scrolls, left, top, height);
+    }
+
+    // The first tab in sight when the row is scrolled as far as it goes.
+    int lastFirstTab(const TabRow& row) const
+    {
+        int first = row.tabWidths.size();
+        int used = 0;
+        while (first > 0 && used + row.tabWidths.at(first - 1) <= tabViewport.width()) {
+            used += row.tabWidths.at(first - 1) + TabRow::Spacing;
+            --first;
+        }
+        return qMin(first, row.tabWidths.size() - 1);
+    }
+
+    void placeCorner(const TabRow& row, int right)
+    {
+        QWidget* corner = visibleCornerWidget();
+        cornerLaidOut = corner != nullptr;
+        if (!corner)
+            return;
+        setCornerAside(corner, row.cornerWidth == 0);
+        const int rowTop = titleHeight();
+        const int rowHeight = tabHeight();
+        const int height = qMin(corner->sizeHint().height(), rowHeight - 2);
+        cornerRect = QRect(right - row.cornerWidth, rowTop + (rowHeight - height) / 2 + 1, row.cornerWidth, height);
+        placeCornerWidget();
+    }
+
+    // A corner widget that has to go is hidden until there is room again.
+    void setCornerAside(QWidget* corner, bool aside)
+    {
+        if (aside == cornerSetAside)
+            return;
+        cornerSetAside = aside;
+        settingCornerAside = true;
+        corner->setVisible(!aside);
+        settingCornerAside = false;
+    }
+
+    /// QMenuBar places its corner widget its own way; the ribbon puts it back.
+    void placeCornerWidget()
+    {
+        QWidget* corner = visibleCornerWidget();
+        if (corner && cornerLaidOut && !cornerSetAside && corner->geometry() != cornerRect)
+            corner->setGeometry(cornerRect);
+    }
+
+    detail::RibbonScrollButton* makeTabScrollArrow(Qt::ArrowType arrow, const char* name, int step)
+    {
+        auto* button = new detail::RibbonScrollButton(q, arrow, detail::RibbonScrollButton::OnFrame);
+        button->setObjectName(QLatin1String(name));
+        button->hide();
+        QObject::connect(button, &QToolButton::clicked, q, [this, step]() {
+            firstVisibleTab = qMax(0, firstVisibleTab + step);
+            relayout();
+        });
+        return button;
+    }
+
+    void layoutTabScrollArrows(bool scrolls, int left, int top, int height)
+    {
+        if (!scrolls && !tabScrollLeft)
+            return;
+        if (!tabScrollLeft) {
+            tabScrollLeft = makeTabScrollArrow(Qt::LeftArrow, "qtitan_ribbon_tabscrollleft", -1);
+            tabScrollRight = makeTabScrollArrow(Qt::RightArrow, "qtitan_ribbon_tabscrollright", 1);
+        }
+        const QRect arrow(0, top + TabTopGap, TabRow::ArrowWidth, height - TabTopGap);
+        tabScrollLeft->setGeometry(arrow.translated(left, 0));
+        tabScrollRight->setGeometry(arrow.translated(tabViewport.right() + 1, 0));
+        tabScrollLeft->setVisible(scrolls);
+        tabScrollRight->setVisible(scrolls);
+        tabScrollLeft->setEnabled(firstVisibleTab > 0);
+        tabScrollRight->setEnabled(!tabRects.isEmpty() && tabRects.last().right() > tabViewport.right());
+    }
+
+    /// Scrolls the tab row so that a tab is wholly in sight.
+    void ensureTabVisible(int index)
+    {
+        if (index < 0 || index >= tabRects.size() || tabViewport.isEmpty())
+            return;
+        if (index < firstVisibleTab) {
+            firstVisibleTab = index;
+        } else {
+            int right = tabRects.at(index).right();
+            while (firstVisibleTab < index && right > tabViewport.right()) {
+                right -= tabRects.at(firstVisibleTab).width() + TabRow::Spacing;
+                ++firstVisibleTab;
             }
-            cap = qMax(low, metrics.horizontalAdvance(QStringLiteral("W…")));
         }
-        tabTextWidths.clear();
-        for (int i = 0; i < count; ++i) {
-            const int textWidth = qMin(textWidths.at(i), cap);
-            const int tabWidth = qMax(textWidth + 2 * padding, padding < TabPadding ? 0 : 40);
-            tabRects.append(QRect(x, tabTop + TabTopGap, tabWidth, tabHeightValue - TabTopGap));
-            tabTextWidths.append(textWidth);
-            x += tabWidth + TabSpacing;
-        }
+        layout();
+    }
+
+    void layoutPages()
+    {
         const QRect area = pageAreaRect();
         for (int i = 0; i < pages.size(); ++i) {
             RibbonPage* page = pages.at(i);
@@ -186,13 +335,17 @@ public:
                 page->hide();
             }
         }
-        if (quickAccessBar) {
-            QPalette palette = quickAccessBar->palette();
-            const RibbonColors colors = RibbonColors::forWidget(q);
-            palette.setColor(QPalette::ButtonText, colors.titleText);
-            palette.setColor(QPalette::WindowText, colors.titleText);
-            quickAccessBar->setPalette(palette);
-        }
+    }
+
+    void updateQuickAccessPalette()
+    {
+        if (!quickAccessBar)
+            return;
+        QPalette palette = quickAccessBar->palette();
+        const RibbonColors colors = RibbonColors::forWidget(q);
+        palette.setColor(QPalette::ButtonText, colors.titleText);
+        palette.setColor(QPalette::WindowText, colors.titleText);
+        quickAccessBar->setPalette(palette);
     }
 
     void relayout()
@@ -208,6 +361,7 @@ public:
         const bool changed = index != current;
         current = index;
         relayout();
+        ensureTabVisible(current);
         if (changed && notify)
             Q_EMIT q->currentPageIndexChanged(current);
     }
@@ -261,6 +415,92 @@ public:
             return QRect(0, 0, 0, 0);
         const int size = 16;
         return QRect(8, (titleHeight() - size) / 2, size, size);
+    }
+
+    bool showTabToolTip(QHelpEvent* help)
+    {
+        // An elided tab shows its whole title as a tool tip.
+        const int tab = tabAt(help->pos());
+        if (tab >= 0) {
+            const QString title = tabText(pages.at(tab));
+            if (q->fontMetrics().horizontalAdvance(title) > tabTextWidths.value(tab)) {
+                QToolTip::showText(help->globalPos(), title, q, tabRects.at(tab));
+                return true;
+            }
+        }
+        QToolTip::hideText();
+        help->ignore();
+        return true;
+    }
+
+    void paintTitle(QPainter* painter, const RibbonColors& colors) const
+    {
+        const int title = titleHeight();
+        const QRect iconRect = titleIconRect();
+        if (!iconRect.isEmpty())
+            q->window()->windowIcon().paint(painter, iconRect);
+        const QString text = windowTitle();
+        if (text.isEmpty())
+            return;
+        const QFontMetrics metrics(q->font());
+        int left = iconRect.isEmpty() ? 0 : iconRect.right() + 12;
+        if (quickAccessShown())
+            left = quickAccessBar->geometry().right() + 12;
+        const int textWidth = metrics.horizontalAdvance(text);
+        QRect titleRect(0, 0, q->width(), title);
+        // Centred on the window unless the quick access bar is in the way.
+        if ((q->width() - textWidth) / 2 < left)
+            titleRect.setLeft(left);
+        painter->setPen(colors.titleText);
+        painter->drawText(titleRect.adjusted(0, 0, -8, 0), Qt::AlignCenter,
+                          metrics.elidedText(text, Qt::ElideRight, titleRect.width() - 8));
+    }
+
+    void paintPageArea(QPainter* painter, const RibbonColors& colors) const
+    {
+        const QRect area = pageAreaRect();
+        detail::paintPageArea(painter, area, q);
+        painter->setPen(colors.pageBorder);
+        painter->drawLine(area.left(), area.bottom(), area.right(), area.bottom());
+    }
+
+    bool selectedTabJoinsPage() const
+    {
+        return !minimized && current >= 0 && current < tabRects.size()
+               && tabViewport.intersects(tabRects.at(current));
+    }
+
+    // The line between the tab row and the page, broken under the selected tab.
+    void paintTabLine(QPainter* painter, const RibbonColors& colors) const
+    {
+        const int lineY = tabRowRect().bottom();
+        painter->setPen(minimized ? colors.pageBorder : colors.tabBorder);
+        if (selectedTabJoinsPage()) {
+            const QRect selected = tabRects.at(current).intersected(tabViewport);
+            painter->drawLine(0, lineY, selected.left(), lineY);
+            painter->drawLine(selected.right(), lineY, q->width() - 1, lineY);
+        } else {
+            painter->drawLine(0, lineY, q->width() - 1, lineY);
+        }
+    }
+
+    void paintTab(QPainter* painter, const RibbonColors& colors, int index) const
+    {
+        const QRect rect = tabRects.at(index);
+        if (!tabViewport.intersects(rect))
+            return;
+        const bool selected = index == current && selectedTabJoinsPage();
+        detail::paintTab(painter, rect,
+                         selected ? detail::TabState::Selected
+                                  : (index == hoverTab ? detail::TabState::Hover : detail::TabState::Normal),
+                         q);
+        painter->setPen(selected ? colors.tabTextSelected : colors.tabText);
+        const QString text = tabText(pages.at(index));
+        const int room = tabTextWidths.value(index, rect.width());
+        const QString shown = painter->fontMetrics().horizontalAdvance(text) > room
+                                  ? painter->fontMetrics().elidedText(text, Qt::ElideRight, room)
+                                  : text;
+        painter->drawText(rect, Qt::AlignCenter, shown);
     }
 
     QString windowTitle() const
@@ -534,7 +774,12 @@ void RibbonBar::setMinimized(bool minimized)
 
 QSize RibbonBar::sizeHint() const
 {
-    int width = d->tabRects.isEmpty() ? 0 : d->tabRects.last().right() + TabPadding;
+    const TabRow::Input input = d->tabRowInput(0);
+    int width = FirstTabGap + CornerMargin + (d->systemButton ? d->systemButton->sizeHint().width() : 0);
+    for (int text : input.textWidths)
+        width += qMax(text + 2 * int(TabRow::Padding), int(TabRow::FullTabMinimum)) + TabRow::Spacing;
+    if (input.cornerPreferred > 0)
+        width += input.cornerPreferred + TabRow::CornerGap;
     if (d->current >= 0)
         width = qMax(width, d->pages.at(d->current)->sizeHint().width());
     return QSize(qMax(width, 200), d->totalHeight());
@@ -560,21 +805,12 @@ bool RibbonBar::event(QEvent* event)
     case QEvent::ParentChange:
         d->watcher->watchWindow(window());
         break;
-    case QEvent::ToolTip: {
-        // An elided tab shows its whole title as a tool tip.
-        auto* help = static_cast<QHelpEvent*>(event);
-        const int tab = d->tabAt(help->pos());
-        if (tab >= 0) {
-            const QString title = Private::pageTitle(d->pages.at(tab)).remove(QLatin1Char('&'));
-            if (fontMetrics().horizontalAdvance(title) > d->tabTextWidths.value(tab)) {
-                QToolTip::showText(help->globalPos(), title, this, d->tabRects.at(tab));
-                return true;
-            }
-        }
-        QToolTip::hideText();
-        event->ignore();
-        return true;
-    }
+    case QEvent::ChildAdded:
+        // Perhaps a corner widget on its way in: lay out once QMenuBar has placed it.
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+        break;
+    case QEvent::ToolTip:
+        return d->showTabToolTip(static_cast<QHelpEvent*>(event));
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::PaletteChange:
@@ -583,7 +819,46 @@ bool RibbonBar::event(QEvent* event)
     default:
         break;
     }
-    return QMenuBar::event(event);
+    // Where QMenuBar may have placed its corner widget its own way.
+    switch (event->type()) {
+    case QEvent::Show:
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+    case QEvent::ActionAdded:
+    case QEvent::ActionRemoved:
+    case QEvent::ActionChanged: {
+        const bool result = QMenuBar::event(event);
+        d->placeCornerWidget();
+        return result;
+    }
+    default:
+        return QMenuBar::event(event);
+    }
+}
+
+bool RibbonBar::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        // Alt belongs to the key tips; QMenuBar's own Alt navigation has no menus to walk here.
+        return false;
+    default:
+        break;
+    }
+    const bool result = QMenuBar::eventFilter(watched, event);
+    if (watched == cornerWidget(Qt::TopRightCorner)) {
+        if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+            // Shown or hidden by the host: the ribbon no longer holds it back.
+            if (!d->settingCornerAside)
+                d->cornerSetAside = false;
+            QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+        }
+        d->placeCornerWidget();
+    }
+    return result;
 }
 
 void RibbonBar::paintEvent(QPaintEvent* event)
@@ -591,67 +866,17 @@ void RibbonBar::paintEvent(QPaintEvent* event)
     Q_UNUSED(event)
     const RibbonColors colors = RibbonColors::forWidget(this);
     QPainter painter(this);
-    const int title = d->titleHeight();
     const QRect tabRow = d->tabRowRect();
-    detail::paintFrame(&painter, QRect(0, 0, width(), title + tabRow.height()), this);
-
-    if (d->frameTheme) {
-        const QRect iconRect = d->titleIconRect();
-        if (!iconRect.isEmpty())
-            window()->windowIcon().paint(&painter, iconRect);
-        const QString text = d->windowTitle();
-        if (!text.isEmpty()) {
-            const QFontMetrics metrics(font());
-            int left = iconRect.isEmpty() ? 0 : iconRect.right() + 12;
-            if (d->quickAccessShown())
-                left = d->quickAccessBar->geometry().right() + 12;
-            const int textWidth = metrics.horizontalAdvance(text);
-            QRect titleRect(0, 0, width(), title);
-            // Centred on the window unless the quick access bar is in the way.
-            if ((width() - textWidth) / 2 < left)
-                titleRect.setLeft(left);
-            painter.setPen(colors.titleText);
-            painter.drawText(titleRect.adjusted(0, 0, -8, 0), Qt::AlignCenter,
-                             metrics.elidedText(text, Qt::ElideRight, titleRect.width() - 8));
-        }
-    }
-
-    const QRect area = d->pageAreaRect();
-    if (!d->minimized) {
-        detail::paintPageArea(&painter, area, this);
-        painter.setPen(colors.pageBorder);
-        painter.drawLine(area.left(), area.bottom(), area.right(), area.bottom());
-    }
-
-    // The line between the tab row and the page, broken under the selected tab.
-    const int lineY = tabRow.bottom();
-    const bool showSelected = !d->minimized && d->current >= 0 && d->current < d->tabRects.size();
-    painter.setPen(d->minimized ? colors.pageBorder : colors.tabBorder);
-    if (showSelected) {
-        const QRect selected = d->tabRects.at(d->current);
-        painter.drawLine(0, lineY, selected.left(), lineY);
-        painter.drawLine(selected.right(), lineY, width() - 1, lineY);
-    } else {
-        painter.drawLine(0, lineY, width() - 1, lineY);
-    }
-
+    detail::paintFrame(&painter, QRect(0, 0, width(), tabRow.bottom() + 1), this);
+    if (d->frameTheme)
+        d->paintTitle(&painter, colors);
+    if (!d->minimized)
+        d->paintPageArea(&painter, colors);
+    d->paintTabLine(&painter, colors);
     painter.setFont(font());
-    for (int i = 0; i < d->tabRects.size(); ++i) {
-        const QRect rect = d->tabRects.at(i);
-        const QString text = Private::pageTitle(d->pages.at(i));
-        const bool selected = showSelected && i == d->current;
-        detail::paintTab(&painter, rect,
-                         selected ? detail::TabState::Selected
-                                  : (i == d->hoverTab ? detail::TabState::Hover : detail::TabState::Normal),
-                         this);
-        painter.setPen(selected ? colors.tabTextSelected : colors.tabText);
-        const int room = d->tabTextWidths.value(i, rect.width());
-        const QString shown = painter.fontMetrics().horizontalAdvance(QString(text).remove(QLatin1Char('&'))) > room
-                                  ? painter.fontMetrics().elidedText(QString(text).remove(QLatin1Char('&')),
-                                                                     Qt::ElideRight, room)
-                                  : text;
-        painter.drawText(rect, Qt::AlignCenter | Qt::TextHideMnemonic, shown);
-    }
+    painter.setClipRect(d->tabViewport);
+    for (int i = 0; i < d->tabRects.size(); ++i)
+        d->paintTab(&painter, colors, i);
 }
 
 void RibbonBar::resizeEvent(QResizeEvent* event)

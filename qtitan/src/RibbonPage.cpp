@@ -2,6 +2,7 @@
 
 #include "RibbonGroup_p.h"
 #include "RibbonPaint_p.h"
+#include "RibbonScrollButton_p.h"
 #include "qtitan/RibbonBar.h"
 #include "qtitan/RibbonGroup.h"
 
@@ -16,43 +17,6 @@ namespace Qtitan {
 
 using detail::RibbonMetrics;
 using GroupSize = RibbonControlSizeDefinition::GroupSize;
-
-namespace {
-
-// The arrows at the ends of a page whose groups do not fit even collapsed.
-class ScrollButton : public QToolButton
-{
-public:
-    ScrollButton(QWidget* parent, Qt::ArrowType arrow) : QToolButton(parent)
-    {
-        setArrowType(arrow);
-        setAttribute(Qt::WA_Hover, true);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter p(this);
-        const RibbonColors colors = detail::colorsFor(this);
-        const bool hover = testAttribute(Qt::WA_UnderMouse);
-        QColor fill = isDown() ? colors.buttonPressedBackground
-                               : hover ? colors.buttonHoverBackground : colors.pageBackgroundTop;
-        fill.setAlpha(255);
-        p.fillRect(rect(), fill);
-        p.setPen(hover ? colors.buttonHoverBorder : colors.pageBorder);
-        p.drawRect(rect().adjusted(0, 0, -1, -1));
-        p.setRenderHint(QPainter::Antialiasing, true);
-        p.setPen(Qt::NoPen);
-        p.setBrush(colors.buttonText);
-        const QPointF c = QRectF(rect()).center();
-        const qreal d = arrowType() == Qt::LeftArrow ? -1.0 : 1.0;
-        const QPointF points[3] = {QPointF(c.x() - 2.0 * d, c.y() - 4.0), QPointF(c.x() - 2.0 * d, c.y() + 4.0),
-                                   QPointF(c.x() + 2.0 * d, c.y())};
-        p.drawPolygon(points, 3);
-    }
-};
-
-} // namespace
 
 class RibbonPage::Private
 {
@@ -71,10 +35,8 @@ public:
 
     QToolButton* makeScrollButton(Qt::ArrowType arrow, const QString& name, int direction)
     {
-        auto* button = new ScrollButton(q, arrow);
+        auto* button = new detail::RibbonScrollButton(q, arrow, detail::RibbonScrollButton::OnPage);
         button->setObjectName(name);
-        button->setAutoRepeat(true);
-        button->setFocusPolicy(Qt::NoFocus);
         button->hide();
         QObject::connect(button, &QToolButton::clicked, q, [this, direction]() {
             scrollOffset += direction * qMax(60, q->width() / 3);
