@@ -1,6 +1,7 @@
 #include "qtitan/RibbonGroup.h"
 
 #include "RibbonGroup_p.h"
+#include "RibbonHover_p.h"
 #include "RibbonPaint_p.h"
 #include "qtitan/RibbonButtonControl.h"
 #include "qtitan/RibbonPage.h"
@@ -315,6 +316,7 @@ void RibbonGroup::Private::ensureCollapsedWidgets()
             if (entry.control->parentWidget() != q)
                 entry.control->setParent(q);
         }
+        detail::syncUnderMouse(q);
     });
 }
 

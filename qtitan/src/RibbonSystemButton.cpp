@@ -1,8 +1,10 @@
 #include "qtitan/RibbonSystemButton.h"
 
+#include "RibbonHover_p.h"
 #include "RibbonPaint_p.h"
 
 #include <QPainter>
+#include <QPointer>
 
 namespace Qtitan {
 
@@ -46,6 +48,15 @@ void RibbonSystemButton::paintEvent(QPaintEvent* event)
     Q_UNUSED(event)
     QPainter painter(this);
     detail::paintSystemButton(&painter, this);
+}
+
+void RibbonSystemButton::mousePressEvent(QMouseEvent* event)
+{
+    // The system menu runs inside the press; once it closes the mouse may be anywhere.
+    QPointer<RibbonSystemButton> guard(this);
+    QToolButton::mousePressEvent(event);
+    if (guard)
+        detail::syncUnderMouse(this);
 }
 
 } // namespace Qtitan

@@ -1,9 +1,11 @@
 #include "RibbonToolButton_p.h"
 
+#include "RibbonHover_p.h"
 #include "RibbonPaint_p.h"
 
 #include <QAction>
 #include <QActionEvent>
+#include <QCursor>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -249,16 +251,16 @@ void RibbonToolButton::actionEvent(QActionEvent* event)
 
 void RibbonToolButton::mousePressEvent(QMouseEvent* event)
 {
+    // A menu runs inside the press; the mouse may be anywhere once it closes.
+    QPointer<RibbonToolButton> guard(this);
     if (event->button() == Qt::LeftButton && popupMode() == QToolButton::MenuButtonPopup) {
         if (isSplit() && dropDownRect().contains(event->pos())) {
-            QPointer<RibbonToolButton> guard(this);
             m_menuOpen = true;
             update();
             showMenu();
             if (guard) {
                 m_menuOpen = false;
-                m_overDropDown = dropDownRect().contains(mapFromGlobal(QCursor::pos()));
-                update();
+                afterMenu();
             }
             return;
         }
@@ -267,6 +269,15 @@ void RibbonToolButton::mousePressEvent(QMouseEvent* event)
         return;
     }
     QToolButton::mousePressEvent(event);
+    if (guard && hasDropDown())
+        afterMenu();
+}
+
+void RibbonToolButton::afterMenu()
+{
+    syncUnderMouse(this);
+    m_overDropDown = underMouse() && dropDownRect().contains(mapFromGlobal(QCursor::pos()));
+    update();
 }
 
 void RibbonToolButton::mouseMoveEvent(QMouseEvent* event)

@@ -30,6 +30,8 @@ public:
 
     /// Whether the button opens a menu (its own or its action's).
     bool hasDropDown() const;
+    /// Brings the hover look back in line with the mouse once a menu of the button closed.
+    void afterMenu();
 
 protected:
     void actionEvent(QActionEvent* event) override;
