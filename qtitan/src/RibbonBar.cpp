@@ -8,17 +8,22 @@
 
 #include "RibbonBar_p.h"
 #include "RibbonColors_p.h"
+#include "RibbonHover_p.h"
+#include "RibbonPagePopup_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScrollButton_p.h"
 #include "RibbonTabRowLayout_p.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QHash>
 #include <QHelpEvent>
 #include <QToolTip>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
+#include <QStyleHints>
 #include <QWheelEvent>
 
 namespace Qtitan {
@@ -76,7 +81,9 @@ public:
     bool frameTheme = false;
     bool minimized = false;
     int hoverTab = -1;
-    bool restoredByPress = false;
+    bool restoredByPress = false; ///< a press un-minimised the ribbon: the double click that follows does nothing
+    detail::RibbonPagePopup* pagePopup = nullptr;
+    ulong popupOpenedAt = 0;      ///< time stamp of the press that opened the page popup
     QVector<QRect> tabRects;    ///< in the bar's coordinates; scrolled tabs lie outside tabViewport
     QVector<int> tabTextWidths; ///< room for each title; a shorter one than the title's is elided
     QRect tabViewport;          ///< the part of the tab row that shows tabs
@@ -328,6 +335,8 @@ public:
         const QRect area = pageAreaRect();
         for (int i = 0; i < pages.size(); ++i) {
             RibbonPage* page = pages.at(i);
+            if (page->parentWidget() != q)
+                continue; // on show in the page popup
             if (i == current && !minimized) {
                 page->setGeometry(area.adjusted(0, 1, 0, -1));
                 page->show();
@@ -356,8 +365,102 @@ public:
         q->update();
     }
 
+    bool popupOpen() const
+    {
+        return pagePopup && pagePopup->isVisible();
+    }
+
+    bool withinDoubleClick(ulong timestamp) const
+    {
+        return timestamp - popupOpenedAt < ulong(QGuiApplication::styleHints()->mouseDoubleClickInterval());
+    }
+
+    // A minimised ribbon drops the page over the workspace rather than making room for it.
+    void openPagePopup(int tab, ulong timestamp)
+    {
+        if (!pagePopup) {
+            pagePopup = new detail::RibbonPagePopup(q);
+            QObject::connect(pagePopup, &detail::RibbonPagePopup::pressedOutside, q,
+                             [this](QMouseEvent* event) { pressedOutsidePopup(event); });
+            QObject::connect(pagePopup, &detail::RibbonPagePopup::closed, q,
+                             [this](RibbonPage* page) { takeBackFromPopup(page); });
+            // Shortcuts of the window do not reach it while the popup holds the keyboard.
+            addMinimizeShortcut(pagePopup);
+        }
+        popupOpenedAt = timestamp;
+        const QPoint topLeft = q->mapToGlobal(QPoint(0, tabRowRect().bottom() + 1));
+        pagePopup->showPage(pages.at(tab), tab, QRect(topLeft, QSize(q->width(), pageAreaHeight())));
+        q->update();
+    }
+
+    // A press on the popup's own tab closes it and goes no further; a double
+    // click there brings the page area back. Presses elsewhere go on to
+    // whatever lies under them (another tab opens its page).
+    void pressedOutsidePopup(QMouseEvent* event)
+    {
+        const int tab = tabAt(q->mapFromGlobal(event->globalPos()));
+        if (tab < 0)
+            return;
+        pagePopup->setAttribute(Qt::WA_NoMouseReplay, true);
+        if (tab != pagePopup->tab()) {
+            // Once this popup has closed on the press.
+            const ulong at = event->timestamp();
+            QMetaObject::invokeMethod(
+                q,
+                [this, tab, at]() {
+                    if (minimized && tab < pages.size())
+                        pressTabWhileMinimized(tab, at);
+                },
+                Qt::QueuedConnection);
+        } else if (event->type() == QEvent::MouseButtonDblClick || withinDoubleClick(event->timestamp())) {
+            q->setMinimized(false);
+            restoredByPress = true;
+        }
+    }
+
+    void addMinimizeShortcut(QWidget* owner)
+    {
+        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1), owner);
+        QObject::connect(shortcut, &QShortcut::activated, q, [this]() { q->setMinimized(!minimized); });
+    }
+
+    void takeBackFromPopup(RibbonPage* page)
+    {
+        if (page && pages.contains(page)) {
+            page->hide();
+            page->setParent(q);
+            detail::syncUnderMouse(page);
+        }
+        syncHoverTab();
+        relayout();
+    }
+
+    void syncHoverTab()
+    {
+        detail::syncUnderMouse(q);
+        hoverTab = q->underMouse() ? tabAt(q->mapFromGlobal(QCursor::pos())) : -1;
+    }
+
+    void pressTabWhileMinimized(int tab, ulong timestamp)
+    {
+        // Reached only by a press that did not pass the open popup first.
+        if (popupOpen() && pagePopup->tab() == tab) {
+            const bool doubleClick = withinDoubleClick(timestamp);
+            pagePopup->close();
+            if (doubleClick) {
+                q->setMinimized(false);
+                restoredByPress = true;
+            }
+            return;
+        }
+        q->setCurrentPageIndex(tab);
+        openPagePopup(tab, timestamp);
+    }
+
     void setCurrent(int index, bool notify)
     {
+        if (popupOpen() && pagePopup->tab() != index)
+            pagePopup->close();
         const bool changed = index != current;
         current = index;
         relayout();
@@ -379,6 +482,8 @@ public:
     void take(int index)
     {
         RibbonPage* page = pages.at(index);
+        if (popupOpen() && pagePopup->page() == page)
+            pagePopup->close();
         QObject::disconnect(destroyWatch.take(page));
         QObject::disconnect(page, nullptr, watcher, nullptr);
         dropAt(index);
@@ -391,7 +496,10 @@ public:
         if (index < 0)
             return;
         destroyWatch.remove(page);
+        const bool inPopup = popupOpen() && pagePopup->tab() == index;
         dropAt(index);
+        if (inPopup)
+            pagePopup->close();
     }
 
     void dropAt(int index)
@@ -466,7 +574,7 @@ public:
 
     bool selectedTabJoinsPage() const
     {
-        return !minimized && current >= 0 && current < tabRects.size()
+        return (!minimized || popupOpen()) && current >= 0 && current < tabRects.size()
                && tabViewport.intersects(tabRects.at(current));
     }
 
@@ -576,6 +684,7 @@ RibbonBar::RibbonBar(QWidget* parent)
     d->quickAccessBar->hide();
     d->quickAccessBar->installEventFilter(d->watcher);
     d->watcher->watchWindow(window());
+    d->addMinimizeShortcut(this);
 }
 
 RibbonBar::~RibbonBar()
@@ -584,6 +693,11 @@ RibbonBar::~RibbonBar()
         QObject::disconnect(it.value());
     d->destroyWatch.clear();
     d->watcher->watchWindow(nullptr);
+    if (d->pagePopup) {
+        // The page inside goes down with the popup; nothing may call back into d.
+        d->pagePopup->disconnect(this);
+        d->pagePopup->hide();
+    }
     delete d;
     d = nullptr;
 }
@@ -767,6 +881,8 @@ void RibbonBar::setMinimized(bool minimized)
 {
     if (d->minimized == minimized)
         return;
+    if (d->popupOpen())
+        d->pagePopup->close();
     d->minimized = minimized;
     d->relayout();
     Q_EMIT minimizationChanged(minimized);
@@ -882,6 +998,8 @@ void RibbonBar::paintEvent(QPaintEvent* event)
 void RibbonBar::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    if (d->popupOpen())
+        d->pagePopup->close();
     d->layout();
 }
 
@@ -891,13 +1009,10 @@ void RibbonBar::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) {
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
-            setCurrentPageIndex(tab);
-            // A click on a tab brings a minimised page area back; the double
-            // click that may follow must not hide it again.
-            if (d->minimized) {
-                setMinimized(false);
-                d->restoredByPress = true;
-            }
+            if (d->minimized)
+                d->pressTabWhileMinimized(tab, event->timestamp());
+            else
+                setCurrentPageIndex(tab);
             event->accept();
             return;
         }
@@ -910,9 +1025,10 @@ void RibbonBar::mouseDoubleClickEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton) {
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
-            setCurrentPageIndex(tab);
-            if (!d->restoredByPress)
+            if (!d->restoredByPress) {
+                setCurrentPageIndex(tab);
                 setMinimized(!d->minimized);
+            }
             d->restoredByPress = false;
             event->accept();
             return;

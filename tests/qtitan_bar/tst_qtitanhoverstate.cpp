@@ -212,6 +212,33 @@ private Q_SLOTS:
         QVERIFY(popup->isVisible());
         QVERIFY(!forward->underMouse());
     }
+
+    void commandInTheDroppedPageLooksPlainNextTime()
+    {
+        HoverRibbon r;
+        QVERIFY(QTest::qWaitForWindowExposed(&r.window));
+        r.bar->setMinimized(true);
+        QCoreApplication::processEvents();
+        r.moveAway();
+        const QPoint tab = r.bar->mapTo(&r.window, r.bar->tabRect(0).center());
+        QTest::mouseClick(r.window.windowHandle(), Qt::LeftButton, {}, tab);
+        QWidget* popup = QApplication::activePopupWidget();
+        QVERIFY(popup);
+        QToolButton* zoomIn = r.buttonOf(r.zoomIn);
+        QVERIFY(zoomIn);
+        const QImage plain = look(zoomIn);
+        QTest::mouseMove(zoomIn);
+        QVERIFY(zoomIn->underMouse());
+        QTest::mouseClick(zoomIn, Qt::LeftButton);
+        QVERIFY(!popup->isVisible());
+        QVERIFY(!zoomIn->underMouse());
+
+        r.moveAway();
+        QTest::mouseClick(r.window.windowHandle(), Qt::LeftButton, {}, tab);
+        QVERIFY(popup->isVisible());
+        QVERIFY(!zoomIn->underMouse());
+        QCOMPARE(look(zoomIn), plain);
+    }
 };
 
 QTEST_MAIN(tst_QtitanHoverState)

@@ -475,13 +475,23 @@ private Q_SLOTS:
         QTRY_VERIFY(bar->height() < fullHeight - 40);
         QVERIFY(bar->height() > bar->tabRect(1).bottom());
 
-        // A single click on a tab while minimised brings the page area back.
+        // A single click on a tab while minimised drops its page over the
+        // workspace; the ribbon stays minimised.
         QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->tabRect(0).center());
         QCOMPARE(bar->currentPageIndex(), 0);
+        QVERIFY(bar->isMinimized());
+        QCOMPARE(spy.count(), 1);
+        QVERIFY(bar->page(0)->isVisible());
+        QVERIFY(bar->page(0)->window() != &window);
+        QApplication::activePopupWidget()->close();
+
+        // A double click restores the page area.
+        doubleClick(bar, bar->tabRect(0).center());
         QVERIFY(!bar->isMinimized());
         QCOMPARE(spy.count(), 2);
         QTRY_COMPARE(bar->height(), fullHeight);
         QVERIFY(bar->page(0)->isVisible());
+        QCOMPARE(bar->page(0)->window(), &window);
 
         // A double click minimises again, and a double click restores.
         doubleClick(bar, bar->tabRect(0).center());
