@@ -3,6 +3,7 @@
 #include "qtitan/RibbonBar.h"
 #include "qtitan/RibbonQuickAccessBar.h"
 
+#include "RibbonCaptionButton_p.h"
 #include "RibbonColors_p.h"
 #include "RibbonLook_p.h"
 #include "RibbonPaint_p.h"
@@ -171,6 +172,10 @@ void CommonStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         painter->fillRect(option->rect, ribbonColors().workspaceBackground);
         return;
     }
+    if (element == static_cast<PrimitiveElement>(PE_CaptionButton)) {
+        drawCaptionButton(option, painter);
+        return;
+    }
     switch (element) {
     case PE_IndicatorBranch: {
         // Tree arrows lie on the view's paper, which keeps the host's colours,
@@ -280,6 +285,12 @@ void CommonStyle::drawControl(ControlElement element, const QStyleOption* option
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void CommonStyle::drawCaptionButton(const QStyleOption* option, QPainter* painter) const
+{
+    if (const auto* titleBar = qstyleoption_cast<const QStyleOptionTitleBar*>(option))
+        detail::RibbonCaptionButton::paintFace(painter, *titleBar, ribbonColors());
 }
 
 namespace {

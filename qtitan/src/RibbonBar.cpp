@@ -13,6 +13,7 @@
 #include "RibbonPaint_p.h"
 #include "RibbonScrollButton_p.h"
 #include "RibbonTabRowLayout_p.h"
+#include "RibbonWindowFrame_p.h"
 
 #include <QAction>
 #include <QApplication>
@@ -79,6 +80,8 @@ public:
     RibbonQuickAccessBar* quickAccessBar = nullptr;
     RibbonBarWatcher* watcher = nullptr;
     bool frameTheme = false;
+    detail::RibbonWindowFrame* frame = nullptr; ///< while the frame theme is on
+    int captionLeft = 0;                        ///< where the caption buttons begin on the title strip
     bool minimized = false;
     int hoverTab = -1;
     bool restoredByPress = false; ///< a press un-minimised the ribbon: the double click that follows does nothing
@@ -183,13 +186,43 @@ public:
 
     void layoutTitleStrip()
     {
+        const int title = titleHeight();
+        captionLeft = frameAttached() ? frame->placeButtons(QRect(0, 0, q->width(), title)) : q->width();
         if (!quickAccessShown())
             return;
-        const int title = titleHeight();
         const QSize hint = quickAccessBar->sizeHint();
         const int x = frameTheme ? titleIconRect().right() + 6 : QuickAccessMargin;
-        quickAccessBar->setGeometry(x, (title - hint.height()) / 2, qMax(0, qMin(hint.width(), q->width() - x)),
+        quickAccessBar->setGeometry(x, (title - hint.height()) / 2, qMax(0, qMin(hint.width(), captionLeft - x)),
                                     hint.height());
+    }
+
+    bool frameAttached() const
+    {
+        return frame && frame->window();
+    }
+
+    /// The frame theme takes the native frame away from the window that shows
+    /// the ribbon, unless the host hid the ribbon (a window whose menu widget
+    /// is replaced hides the old one first).
+    void updateFrame()
+    {
+        const bool wanted = frameTheme && !explicitlyHidden(q);
+        if (wanted && !frame)
+            frame = new detail::RibbonWindowFrame(q);
+        if (frame)
+            frame->attach(wanted ? q->window() : nullptr);
+        relayout();
+    }
+
+    // Hidden by its host, not merely waiting to be shown with its window.
+    static bool explicitlyHidden(const QWidget* widget)
+    {
+        return widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+    }
+
+    bool inTitleStrip(const QPoint& pos) const
+    {
+        return frameAttached() && pos.y() < titleHeight();
     }
 
     TabRow::Input tabRowInput(int available) const
@@ -551,17 +584,22 @@ public:
         if (text.isEmpty())
             return;
         const QFontMetrics metrics(q->font());
-        int left = iconRect.isEmpty() ? 0 : iconRect.right() + 12;
+        int left = iconRect.isEmpty() ? 8 : iconRect.right() + 12;
         if (quickAccessShown())
             left = quickAccessBar->geometry().right() + 12;
+        const int right = captionLeft - 8;
         const int textWidth = metrics.horizontalAdvance(text);
-        QRect titleRect(0, 0, q->width(), title);
-        // Centred on the window unless the quick access bar is in the way.
-        if ((q->width() - textWidth) / 2 < left)
-            titleRect.setLeft(left);
-        painter->setPen(colors.titleText);
-        painter->drawText(titleRect.adjusted(0, 0, -8, 0), Qt::AlignCenter,
-                          metrics.elidedText(text, Qt::ElideRight, titleRect.width() - 8));
+        // Centred on the window unless the quick access bar or the caption buttons are in the way.
+        int x = qMax((q->width() - textWidth) / 2, left);
+        if (x + textWidth > right)
+            x = qMax(left, right - textWidth);
+        const int room = qMax(0, right - x);
+        QColor pen = colors.titleText;
+        if (frameAttached() && !q->window()->isActiveWindow())
+            pen.setAlphaF(pen.alphaF() * 0.6);
+        painter->setPen(pen);
+        painter->drawText(QRect(x, 0, room, title), Qt::AlignLeft | Qt::AlignVCenter,
+                          metrics.elidedText(text, Qt::ElideRight, room));
     }
 
     void paintPageArea(QPainter* painter, const RibbonColors& colors) const
@@ -869,7 +907,7 @@ void RibbonBar::setFrameThemeEnabled(bool enabled)
     if (d->frameTheme == enabled)
         return;
     d->frameTheme = enabled;
-    d->relayout();
+    d->updateFrame();
 }
 
 bool RibbonBar::isMinimized() const
@@ -920,6 +958,11 @@ bool RibbonBar::event(QEvent* event)
         return true;
     case QEvent::ParentChange:
         d->watcher->watchWindow(window());
+        d->updateFrame();
+        break;
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+        d->updateFrame();
         break;
     case QEvent::ChildAdded:
         // Perhaps a corner widget on its way in: lay out once QMenuBar has placed it.
@@ -1006,6 +1049,11 @@ void RibbonBar::resizeEvent(QResizeEvent* event)
 void RibbonBar::mousePressEvent(QMouseEvent* event)
 {
     d->restoredByPress = false;
+    if (event->button() == Qt::LeftButton && d->inTitleStrip(event->pos())) {
+        d->frame->titlePressed(event->globalPos());
+        event->accept();
+        return;
+    }
     if (event->button() == Qt::LeftButton) {
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
@@ -1022,6 +1070,11 @@ void RibbonBar::mousePressEvent(QMouseEvent* event)
 
 void RibbonBar::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    if (event->button() == Qt::LeftButton && d->inTitleStrip(event->pos())) {
+        d->frame->toggleMaximized();
+        event->accept();
+        return;
+    }
     if (event->button() == Qt::LeftButton) {
         const int tab = d->tabAt(event->pos());
         if (tab >= 0) {
@@ -1039,12 +1092,21 @@ void RibbonBar::mouseDoubleClickEvent(QMouseEvent* event)
 
 void RibbonBar::mouseMoveEvent(QMouseEvent* event)
 {
+    if ((event->buttons() & Qt::LeftButton) && d->frameAttached())
+        d->frame->titleDragged(event->globalPos());
     const int tab = d->tabAt(event->pos());
     if (tab != d->hoverTab) {
         d->hoverTab = tab;
         update();
     }
     QWidget::mouseMoveEvent(event);
+}
+
+void RibbonBar::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (d->frameAttached())
+        d->frame->titleReleased();
+    QMenuBar::mouseReleaseEvent(event);
 }
 
 void RibbonBar::leaveEvent(QEvent* event)

@@ -23,6 +23,11 @@ class QTITAN_EXPORT CommonStyle : public QProxyStyle
 public:
     /// The workspace (empty MDI area) background.
     static constexpr int PE_Workspace = QStyle::PE_CustomBase + 0x16;
+    /// A minimise, maximise, restore or close button on the ribbon's title strip
+    /// while the frame theme is on: a QStyleOptionTitleBar whose subControls
+    /// names the button (SC_TitleBarMinButton, SC_TitleBarMaxButton,
+    /// SC_TitleBarNormalButton or SC_TitleBarCloseButton).
+    static constexpr int PE_CaptionButton = QStyle::PE_CustomBase + 0x30;
 
     /// A plain ribbon style: flat, with colours derived from Fusion's palette.
     CommonStyle();
@@ -52,6 +57,8 @@ protected:
 
     /// Re-polishes the application's widgets after a theme change.
     void updateTheme();
+    /// Paints PE_CaptionButton; a family may draw its own caption buttons here.
+    virtual void drawCaptionButton(const QStyleOption* option, QPainter* painter) const;
 
     /// Stores a subclass's new theme and, when it differs, updates the widgets.
     template <typename Theme>

@@ -52,6 +52,7 @@ public:
 
     RibbonQuickAccessBar* quickAccessBar() const;
 
+    /// Whether the ribbon stands in for the native window frame (see setFrameThemeEnabled()).
     bool isFrameThemeEnabled() const;
     /// While the page area is minimised only the tabs show.
     bool isMinimized() const;
@@ -62,6 +63,11 @@ public:
 
 public Q_SLOTS:
     void setCurrentPageIndex(int index);
+    /// With the frame theme on, the window that shows the ribbon loses its
+    /// native frame: the ribbon draws the caption (window icon, quick access
+    /// bar, centred title, minimise, maximise/restore and close buttons), a drag
+    /// on it moves the window, a double click maximises or restores it, and the
+    /// window's edges resize it. Turned off, the native frame comes back.
     void setFrameThemeEnabled(bool enabled = true);
     void setMinimized(bool minimized);
 
@@ -77,6 +83,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
