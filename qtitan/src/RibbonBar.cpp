@@ -9,6 +9,7 @@
 #include "RibbonBar_p.h"
 #include "RibbonColors_p.h"
 #include "RibbonHover_p.h"
+#include "RibbonKeyTips_p.h"
 #include "RibbonPagePopup_p.h"
 #include "RibbonPaint_p.h"
 #include "RibbonScrollButton_p.h"
@@ -86,6 +87,7 @@ public:
     int hoverTab = -1;
     bool restoredByPress = false; ///< a press un-minimised the ribbon: the double click that follows does nothing
     detail::RibbonPagePopup* pagePopup = nullptr;
+    detail::RibbonKeyTips* keyTips = nullptr;
     ulong popupOpenedAt = 0;      ///< time stamp of the press that opened the page popup
     QVector<QRect> tabRects;    ///< in the bar's coordinates; scrolled tabs lie outside tabViewport
     QVector<int> tabTextWidths; ///< room for each title; a shorter one than the title's is elided
@@ -451,6 +453,22 @@ public:
         }
     }
 
+    void createKeyTips()
+    {
+        detail::RibbonKeyTips::Host host;
+        host.openTab = [this](int tab) {
+            if (!minimized)
+                q->setCurrentPageIndex(tab);
+            else if (!popupOpen() || pagePopup->tab() != tab)
+                pressTabWhileMinimized(tab, 0);
+        };
+        host.closeDroppedPage = [this]() {
+            if (popupOpen())
+                pagePopup->close();
+        };
+        keyTips = new detail::RibbonKeyTips(q, host);
+    }
+
     void addMinimizeShortcut(QWidget* owner)
     {
         auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F1), owner);
@@ -723,6 +741,7 @@ RibbonBar::RibbonBar(QWidget* parent)
     d->quickAccessBar->installEventFilter(d->watcher);
     d->watcher->watchWindow(window());
     d->addMinimizeShortcut(this);
+    d->createKeyTips();
 }
 
 RibbonBar::~RibbonBar()
@@ -910,6 +929,16 @@ void RibbonBar::setFrameThemeEnabled(bool enabled)
     d->updateFrame();
 }
 
+bool RibbonBar::isKeyTipsEnabled() const
+{
+    return d->keyTips->isEnabled();
+}
+
+void RibbonBar::setKeyTipsEnabled(bool enabled)
+{
+    d->keyTips->setEnabled(enabled);
+}
+
 bool RibbonBar::isMinimized() const
 {
     return d->minimized;
@@ -963,6 +992,9 @@ bool RibbonBar::event(QEvent* event)
     case QEvent::ShowToParent:
     case QEvent::HideToParent:
         d->updateFrame();
+        break;
+    case QEvent::Hide:
+        d->keyTips->end();
         break;
     case QEvent::ChildAdded:
         // Perhaps a corner widget on its way in: lay out once QMenuBar has placed it.

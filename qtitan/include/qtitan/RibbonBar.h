@@ -56,6 +56,15 @@ public:
     bool isFrameThemeEnabled() const;
     /// While the page area is minimised only the tabs show.
     bool isMinimized() const;
+    /// Whether Alt or F10 shows key tips (on by default).
+    bool isKeyTipsEnabled() const;
+    /// Turns key tips on or off. Alt or F10 then shows a letter badge on each
+    /// tab, the system button and the quick access bar's buttons; typing a
+    /// tab's letters opens it and badges its controls, and typing a control's
+    /// letters runs its command or opens its menu. Escape steps back a level.
+    /// An action, page or group may choose its letters with the dynamic
+    /// property "keyTip".
+    void setKeyTipsEnabled(bool enabled);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
