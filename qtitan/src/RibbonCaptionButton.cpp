@@ -105,7 +105,7 @@ void RibbonCaptionButton::paintFace(QPainter* painter, const QStyleOptionTitleBa
     const bool sunken = option.state & QStyle::State_Sunken;
     const bool hover = option.state & QStyle::State_MouseOver;
     QColor glyph = colors.titleText;
-    painter->fillRect(option.rect, colors.frameBackground);
+    // At rest the button shows the frame painted under it, gradient or glass alike.
     if (close && (hover || sunken)) {
         painter->fillRect(option.rect, sunken ? ClosePressed : CloseHover);
         glyph = Qt::white;

@@ -258,15 +258,22 @@ private Q_SLOTS:
 
     void captionButtonsFollowTheStyle()
     {
-        Office2016Style style(Office2016Style::Colorful);
+        // A frame shaded from top to bottom shows whether the buttons leave it visible.
+        Office2007Style style(Office2007Style::Blue);
         FramedRibbon r;
         QVERIFY(QTest::qWaitForWindowExposed(&r.window));
         r.bar->setStyle(&style);
         for (QAbstractButton* button : r.bar->findChildren<QAbstractButton*>())
             button->setStyle(&style);
-        // Painted on the frame's colour, with the title's colour for the glyph.
-        const QImage image = look(r.minimize());
-        QCOMPARE(image.pixelColor(1, 1), style.ribbonColors().frameBackground);
+        QTest::mouseMove(&r.window, QPoint(r.window.width() / 2, r.window.height() - 40));
+        const QImage bar = look(r.bar);
+        const QRect minimize = r.minimize()->geometry();
+        // At rest a button is the frame under it, row by row, up to its glyph.
+        QVERIFY(bar.pixelColor(minimize.left() - 2, 1) != bar.pixelColor(minimize.left() - 2, minimize.bottom() - 1));
+        for (int y = minimize.top(); y <= minimize.bottom(); ++y)
+            QCOMPARE(bar.pixelColor(minimize.left() + 1, y), bar.pixelColor(minimize.left() - 2, y));
+        // The glyph takes the title's colour.
+        const QImage image = bar.copy(minimize);
         int glyph = 0;
         for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)
