@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QStyleHints>
 #include <QWidget>
 #include <QWindow>
 
@@ -191,25 +192,30 @@ void RibbonWindowFrame::toggleMaximized()
         m_window->showMaximized();
 }
 
-// The move starts at once: the window system then keeps the mouse on the
-// spot of the title where it was pressed. (The second press of a double
-// click reaches the ribbon as a double click, which maximises instead.)
+// The move waits until the mouse has gone further than a double click may
+// stray: a window system that moves the window holds the mouse until the
+// button is let go, and the second press of a double click would never reach
+// the ribbon. (Catching the window up with the mouse before handing it over
+// races with the window system, which may start from the old place.)
 void RibbonWindowFrame::titlePressed(const QPoint& globalPos)
 {
     m_drag = Drag::None;
     // A maximised window stays where it is.
     if (!m_window || m_window->isMaximized() || m_window->isFullScreen())
         return;
-    hookWindowHandle();
-    if (m_handle && m_handle->startSystemMove())
-        return;
-    m_drag = Drag::Moving;
+    m_drag = Drag::Pressed;
     m_pressGlobal = globalPos;
     m_startGeometry = m_window->geometry();
 }
 
 void RibbonWindowFrame::titleDragged(const QPoint& globalPos)
 {
+    if (m_drag == Drag::Pressed) {
+        if ((globalPos - m_pressGlobal).manhattanLength() <= QGuiApplication::styleHints()->mouseDoubleClickDistance())
+            return;
+        hookWindowHandle();
+        m_drag = m_handle && m_handle->startSystemMove() ? Drag::None : Drag::Moving;
+    }
     if (m_drag == Drag::Moving)
         follow(globalPos);
 }

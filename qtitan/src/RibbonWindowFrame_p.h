@@ -37,8 +37,8 @@ public:
 
     /// A press of the left button on the empty part of the title strip.
     void titlePressed(const QPoint& globalPos);
-    /// The mouse moved with the left button held since titlePressed() (where
-    /// the window system could not move the window itself).
+    /// The mouse moved with the left button held since titlePressed(): past
+    /// the drag distance the window moves.
     void titleDragged(const QPoint& globalPos);
     void titleReleased();
     void toggleMaximized();
@@ -58,7 +58,12 @@ private:
     bool windowMouseEvent(QMouseEvent* event);
     void follow(const QPoint& globalPos);
 
-    enum class Drag { None, Moving, Resizing };
+    enum class Drag {
+        None,
+        Pressed, ///< on the title strip, not yet dragged far enough to move
+        Moving,  ///< the window follows the mouse by hand
+        Resizing
+    };
 
     QWidget* m_bar;
     QPointer<QWidget> m_window;

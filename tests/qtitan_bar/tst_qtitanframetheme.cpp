@@ -306,7 +306,14 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&r.window));
         const QPoint before = r.window.pos();
         const QPoint spot = r.inWindow(r.bar, r.emptyTitleSpot());
-        // The window follows the mouse (the offscreen platform cannot move it itself).
+        // A hand that twitches while it clicks (or clicks twice) moves nothing:
+        // a window system moving the window would swallow the second click.
+        QTest::mousePress(r.handle(), Qt::LeftButton, {}, spot);
+        QTest::mouseMove(r.handle(), spot + QPoint(1, 1));
+        QTest::mouseRelease(r.handle(), Qt::LeftButton, {}, spot + QPoint(1, 1));
+        QCOMPARE(r.window.pos(), before);
+        // Past the drag distance the window follows the mouse (the offscreen
+        // platform cannot move it itself).
         QTest::mousePress(r.handle(), Qt::LeftButton, {}, spot);
         QTest::mouseMove(r.handle(), spot + QPoint(20, 10));
         QTRY_COMPARE(r.window.pos(), before + QPoint(20, 10));
