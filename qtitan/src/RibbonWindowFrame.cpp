@@ -1,6 +1,7 @@
 #include "RibbonWindowFrame_p.h"
 
 #include "RibbonCaptionButton_p.h"
+#include "RibbonHover_p.h"
 #include "qtitan/RibbonBar.h"
 
 #include <QApplication>
@@ -345,6 +346,13 @@ bool RibbonWindowFrame::eventFilter(QObject* watched, QEvent* event)
         case QEvent::WindowStateChange:
             showEdgeCursor({});
             updateButtons();
+            break;
+        case QEvent::Move:
+        case QEvent::Resize:
+            // Maximising or restoring carries the buttons away from a mouse
+            // that stays put, and no Leave comes for that.
+            for (RibbonCaptionButton* button : {m_minimize, m_maximize, m_close})
+                syncUnderMouse(button);
             break;
         case QEvent::ActivationChange:
             updateButtons();

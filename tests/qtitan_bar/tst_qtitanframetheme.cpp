@@ -231,6 +231,25 @@ private Q_SLOTS:
         QVERIFY(!r.window.isVisible());
     }
 
+    void maximizeButtonLooksPlainOnceTheWindowMovesItAway()
+    {
+        FramedRibbon r;
+        QVERIFY(QTest::qWaitForWindowExposed(&r.window));
+        // The mouse stays where the button was; the maximised window puts the button elsewhere.
+        QTest::mouseMove(r.maximize());
+        QVERIFY(r.maximize()->underMouse());
+        QTest::mouseClick(r.maximize(), Qt::LeftButton);
+        waitForMaximized(&r.window);
+        QVERIFY(!r.maximize()->rect().contains(r.maximize()->mapFromGlobal(QCursor::pos())));
+        QVERIFY(!r.maximize()->underMouse());
+        const QImage plain = look(r.maximize());
+        // Hovering it again, on the way from the workspace, lights it up.
+        QTest::mouseMove(&r.window, QPoint(r.window.width() / 2, r.window.height() - 40));
+        QTest::mouseMove(r.maximize());
+        QVERIFY(r.maximize()->underMouse());
+        QVERIFY(look(r.maximize()) != plain);
+    }
+
     void captionButtonStates()
     {
         FramedRibbon r;
