@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <vector>
 
 namespace Qtitan {
 namespace Scheme {
@@ -61,9 +62,7 @@ QColor outline(const QColor& fill, bool darkPage)
     return QColor::fromHsvF(hsv.hsvHueF(), qMin<qreal>(1.0, hsv.hsvSaturationF() * 1.3), hsv.valueF() * 0.8);
 }
 
-} // namespace
-
-RibbonColors build(const Seed& seed)
+RibbonColors derive(const Seed& seed)
 {
     const QColor frame(seed.frame);
     const QColor frameText(seed.frameText);
@@ -123,6 +122,37 @@ RibbonColors build(const Seed& seed)
     }
     c.workspaceBackground = QColor(seed.workspace);
     return c;
+}
+
+bool sameSeed(const Seed& a, const Seed& b)
+{
+    return a.frame == b.frame && a.frameText == b.frameText && a.pageTop == b.pageTop && a.pageBottom == b.pageBottom
+           && a.pageBorder == b.pageBorder && a.accent == b.accent && a.text == b.text && a.workspace == b.workspace
+           && a.highlight == b.highlight;
+}
+
+} // namespace
+
+// Every ribbon widget asks for its colours on each paint, and only a few
+// seeds are in use at a time (one per theme or palette shown), so the last
+// few schemes are kept rather than derived again.
+RibbonColors build(const Seed& seed)
+{
+    struct Entry
+    {
+        Seed seed;
+        RibbonColors colors;
+    };
+    enum { Kept = 8 };
+    thread_local std::vector<Entry> kept;
+    for (const Entry& entry : kept) {
+        if (sameSeed(entry.seed, seed))
+            return entry.colors;
+    }
+    if (kept.size() == Kept)
+        kept.erase(kept.begin());
+    kept.push_back({seed, derive(seed)});
+    return kept.back().colors;
 }
 
 const CommonStyle* commonStyleFor(const QWidget* widget)
