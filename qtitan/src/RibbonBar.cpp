@@ -486,6 +486,14 @@ public:
         relayout();
     }
 
+    void setHoverTab(int tab)
+    {
+        if (tab == hoverTab)
+            return;
+        hoverTab = tab;
+        q->update();
+    }
+
     void syncHoverTab()
     {
         detail::syncUnderMouse(q);
@@ -999,6 +1007,12 @@ bool RibbonBar::event(QEvent* event)
     case QEvent::ChildAdded:
         // Perhaps a corner widget on its way in: lay out once QMenuBar has placed it.
         QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+        if (QObject* child = static_cast<QChildEvent*>(event)->child(); child->isWidgetType())
+            child->installEventFilter(this);
+        break;
+    case QEvent::ChildRemoved:
+        if (QObject* child = static_cast<QChildEvent*>(event)->child(); child != cornerWidget(Qt::TopRightCorner))
+            child->removeEventFilter(this);
         break;
     case QEvent::ToolTip:
         return d->showTabToolTip(static_cast<QHelpEvent*>(event));
@@ -1030,6 +1044,13 @@ bool RibbonBar::event(QEvent* event)
 
 bool RibbonBar::eventFilter(QObject* watched, QEvent* event)
 {
+    // A quick hand goes from a tab straight onto a widget of the ribbon, and
+    // the ribbon sees no move past the tab.
+    if (event->type() == QEvent::Enter && watched->parent() == this)
+        d->setHoverTab(-1);
+    // Only the corner widget is QMenuBar's business among the ribbon's children.
+    if (watched->parent() == this && watched != cornerWidget(Qt::TopRightCorner))
+        return false;
     switch (event->type()) {
     case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
@@ -1126,11 +1147,7 @@ void RibbonBar::mouseMoveEvent(QMouseEvent* event)
 {
     if ((event->buttons() & Qt::LeftButton) && d->frameAttached())
         d->frame->titleDragged(event->globalPos());
-    const int tab = d->tabAt(event->pos());
-    if (tab != d->hoverTab) {
-        d->hoverTab = tab;
-        update();
-    }
+    d->setHoverTab(d->tabAt(event->pos()));
     QWidget::mouseMoveEvent(event);
 }
 
@@ -1143,10 +1160,7 @@ void RibbonBar::mouseReleaseEvent(QMouseEvent* event)
 
 void RibbonBar::leaveEvent(QEvent* event)
 {
-    if (d->hoverTab != -1) {
-        d->hoverTab = -1;
-        update();
-    }
+    d->setHoverTab(-1);
     QWidget::leaveEvent(event);
 }
 

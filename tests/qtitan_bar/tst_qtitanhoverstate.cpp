@@ -213,6 +213,24 @@ private Q_SLOTS:
         QVERIFY(!forward->underMouse());
     }
 
+    void tabLooksPlainOnceTheMouseGoesOntoTheControlsBelow()
+    {
+        HoverRibbon r;
+        QVERIFY(QTest::qWaitForWindowExposed(&r.window));
+        r.moveAway();
+        const QRect tab = r.bar->tabRect(1);
+        const QImage plain = r.bar->grab(tab).toImage();
+        QTest::mouseMove(r.bar, tab.center());
+        QVERIFY(r.bar->grab(tab).toImage() != plain);
+        // Straight down from the tab onto a button of the page, as a quick hand
+        // goes: the ribbon itself sees no move past its tab.
+        QTest::mouseMove(r.buttonOf(r.zoomIn));
+        QCOMPARE(r.bar->grab(tab).toImage(), plain);
+        // And from there onto the tab again.
+        QTest::mouseMove(r.bar, tab.center());
+        QVERIFY(r.bar->grab(tab).toImage() != plain);
+    }
+
     void commandInTheDroppedPageLooksPlainNextTime()
     {
         HoverRibbon r;
