@@ -36,6 +36,9 @@ bool opensMenu(const QToolButton* button)
     return hasMenu && button->popupMode() == QToolButton::InstantPopup;
 }
 
+// How far below a large button's bottom edge its badge is centred.
+const int LargeButtonTipDrop = 4;
+
 QPoint bottomCentre(const QRect& rect)
 {
     return QPoint(rect.center().x(), rect.bottom());
@@ -362,9 +365,11 @@ void RibbonKeyTips::addControlEntries(RibbonGroup* group, QVector<Entry>* entrie
             QToolButton* button = buttonControl->widget();
             entry.kind = opensMenu(button) ? Kind::Menu : Kind::Command;
             entry.target = button;
-            // Below the middle of a large button; over the icon of a small one.
+            // On the bottom edge of a large button, clear of its label's two
+            // lines (it reaches into the group title, as people know it);
+            // over the icon of a small one.
             entry.anchor = buttonControl->isLargeAt(control->currentSize())
-                               ? QPoint(rect.center().x(), rect.bottom() - 8)
+                               ? QPoint(rect.center().x(), rect.bottom() + LargeButtonTipDrop)
                                : QPoint(rect.left() + 11, rect.center().y());
         } else if (auto* widgetControl = qobject_cast<RibbonWidgetControl*>(control)) {
             if (!widgetControl->contentWidget())

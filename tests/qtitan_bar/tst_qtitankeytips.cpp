@@ -285,6 +285,27 @@ private Q_SLOTS:
         QVERIFY(disjoint(shown));
     }
 
+    void largeButtonBadgeLeavesItsLabelReadable()
+    {
+        KeyTipRibbon r;
+        QVERIFY(r.ready());
+        KeyTipRibbon::key(Qt::Key_Alt);
+        KeyTipRibbon::typeText(QStringLiteral("I"));
+        QToolButton* table = r.buttonOf(r.table);
+        QVERIFY(table);
+        QLabel* badge = KeyTipRibbon::badges().value(KeyTipRibbon::tipOf(table));
+        QVERIFY(badge);
+        const QRect button(table->mapToGlobal(QPoint(0, 0)), table->size());
+        const QRect badgeRect(badge->mapToGlobal(QPoint(0, 0)), badge->size());
+        // Centred under the button, below its bottom edge, so the label's two
+        // lines above stay in sight.
+        QVERIFY(qAbs(badgeRect.center().x() - button.center().x()) <= 1);
+        QVERIFY2(badgeRect.center().y() > button.bottom(),
+                 qPrintable(QStringLiteral("badge centre %1, button bottom %2")
+                                .arg(badgeRect.center().y())
+                                .arg(button.bottom())));
+    }
+
     void tipsAreUniqueAndNoneBeginsAnother()
     {
         KeyTipRibbon r;
