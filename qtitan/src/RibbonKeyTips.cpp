@@ -36,12 +36,13 @@ bool opensMenu(const QToolButton* button)
     return hasMenu && button->popupMode() == QToolButton::InstantPopup;
 }
 
-// How far below a large button's bottom edge its badge is centred.
-const int LargeButtonTipDrop = 4;
+// Badges hang a little below the bottom edge of what they name, so that the
+// text or icon above stays in sight.
+const int BadgeDrop = 4;
 
-QPoint bottomCentre(const QRect& rect)
+QPoint belowBottomCentre(const QRect& rect)
 {
-    return QPoint(rect.center().x(), rect.bottom());
+    return QPoint(rect.center().x(), rect.bottom() + BadgeDrop);
 }
 
 // Opens a button's menu once the key that chose it has been dealt with (the
@@ -267,7 +268,7 @@ QVector<RibbonKeyTips::Entry> RibbonKeyTips::topEntries() const
             entry.kind = Kind::Menu;
             entry.target = button;
             entry.surface = button;
-            entry.anchor = bottomCentre(button->rect());
+            entry.anchor = belowBottomCentre(button->rect());
             QAction* action = button->defaultAction();
             entry.fixed = fixedTip(action);
             // Without a text of its own it is the File button people know.
@@ -285,7 +286,7 @@ QVector<RibbonKeyTips::Entry> RibbonKeyTips::topEntries() const
         entry.tab = i;
         entry.target = pages.at(i);
         entry.surface = m_bar;
-        entry.anchor = bottomCentre(tab);
+        entry.anchor = belowBottomCentre(tab);
         entry.fixed = fixedTip(pages.at(i));
         entry.candidates = RibbonKeyTipNames::candidatesOf(pages.at(i)->title());
         entries.append(entry);
@@ -302,7 +303,7 @@ QVector<RibbonKeyTips::Entry> RibbonKeyTips::topEntries() const
             entry.kind = opensMenu(button) ? Kind::Menu : Kind::Command;
             entry.target = button;
             entry.surface = button;
-            entry.anchor = bottomCentre(button->rect());
+            entry.anchor = belowBottomCentre(button->rect());
             entry.fixed = fixedTip(action);
             // The quick access bar counts its buttons: 1 to 9.
             entry.candidates = number <= 9 ? QString::number(number) : QString();
@@ -341,7 +342,7 @@ QVector<RibbonKeyTips::Entry> RibbonKeyTips::pageEntries(RibbonPage* page) const
         entry.kind = Kind::Group;
         entry.target = button;
         entry.surface = button;
-        entry.anchor = bottomCentre(button->rect());
+        entry.anchor = belowBottomCentre(button->rect());
         entry.fixed = fixedTip(group);
         entry.candidates = RibbonKeyTipNames::candidatesOf(group->title());
         entries.append(entry);
@@ -365,11 +366,10 @@ void RibbonKeyTips::addControlEntries(RibbonGroup* group, QVector<Entry>* entrie
             QToolButton* button = buttonControl->widget();
             entry.kind = opensMenu(button) ? Kind::Menu : Kind::Command;
             entry.target = button;
-            // On the bottom edge of a large button, clear of its label's two
-            // lines (it reaches into the group title, as people know it);
-            // over the icon of a small one.
+            // Below a large button, clear of its label's two lines (reaching
+            // into the group title, as people know it); over the icon of a small one.
             entry.anchor = buttonControl->isLargeAt(control->currentSize())
-                               ? QPoint(rect.center().x(), rect.bottom() + LargeButtonTipDrop)
+                               ? belowBottomCentre(rect)
                                : QPoint(rect.left() + 11, rect.center().y());
         } else if (auto* widgetControl = qobject_cast<RibbonWidgetControl*>(control)) {
             if (!widgetControl->contentWidget())
