@@ -95,7 +95,8 @@ private slots:
     void switchingToRememberGreysOutNameAtOnce();
     void groupTypeChoicesApplyToBar();
     void groupEditorForSeveralGroupCommands();
-    void mixedGroupTypesCountAsSimple();
+    void mixedGroupTypesCheckNoChoice();
+    void mixedSelectionInPageCanBeMadeSimple();
     void toolButtonStyleEditor();
 };
 
@@ -323,7 +324,7 @@ void tst_QuickPanelEditors::groupEditorForSeveralGroupCommands()
     QCOMPARE(ui::getGroupButtonType(host.bar(), second), ui::DynamicLite);
 }
 
-void tst_QuickPanelEditors::mixedGroupTypesCountAsSimple()
+void tst_QuickPanelEditors::mixedGroupTypesCheckNoChoice()
 {
     Host host;
     QAction* first = addGroup(host, QStringLiteral("Первая"), {host.commands[1]});
@@ -332,13 +333,37 @@ void tst_QuickPanelEditors::mixedGroupTypesCountAsSimple()
     RibbonQuickPanelTreeModel model(&host.ribbon);
     QuickPanelActionGroupItemEditor editor(itemsOf(model, {model.index(0, 0), model.index(1, 0)}), nullptr);
     QScopedPointer<QWidget> widget(editor.editorWidget());
-    QVERIFY(radio(widget.data(), "Не запоминать")->isChecked());
-    QVERIFY(!radio(widget.data(), "Запоминать активную")->isChecked());
+    const QList<QRadioButton*> radios = widget->findChildren<QRadioButton*>();
+    QCOMPARE(radios.size(), 3);
+    for (QRadioButton* button : radios)
+        QVERIFY2(!button->isChecked(), qPrintable(label(button)));
     // Nothing changes until a choice is made.
+    QCOMPARE(ui::getGroupButtonType(host.bar(), first), ui::Simple);
     QCOMPARE(ui::getGroupButtonType(host.bar(), second), ui::Dynamic);
     radio(widget.data(), "Запоминать активную")->setChecked(true);
     QCOMPARE(ui::getGroupButtonType(host.bar(), first), ui::Dynamic);
     QCOMPARE(ui::getGroupButtonType(host.bar(), second), ui::Dynamic);
+}
+
+void tst_QuickPanelEditors::mixedSelectionInPageCanBeMadeSimple()
+{
+    // With one choice already checked for a mixed selection, clicking it
+    // would change nothing: the user could not make both simple.
+    Host host;
+    QAction* first = addGroup(host, QStringLiteral("Первая"), {host.commands[1]});
+    QAction* second = addGroup(host, QStringLiteral("Вторая"), {host.commands[2]});
+    ui::setGroupButtonType(host.bar(), first, ui::DynamicLite);
+    Page page(host);
+    page.click(page.model->index(0, 0));
+    page.click(page.model->index(1, 0), Qt::ControlModifier);
+    QCOMPARE(page.view->selectionModel()->selectedIndexes().size(), 2);
+    for (const char* text : {"Запоминать активную", "Не запоминать", "Делать активной первую"})
+        QVERIFY2(!radio(page.paramsBox(), text)->isChecked(), text);
+    QRadioButton* simple = radio(page.paramsBox(), "Не запоминать");
+    QTest::mouseClick(simple, Qt::LeftButton, Qt::NoModifier, QPoint(6, simple->height() / 2));
+    QVERIFY(simple->isChecked());
+    QCOMPARE(ui::getGroupButtonType(host.bar(), first), ui::Simple);
+    QCOMPARE(ui::getGroupButtonType(host.bar(), second), ui::Simple);
 }
 
 void tst_QuickPanelEditors::toolButtonStyleEditor()

@@ -19,6 +19,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <optional>
+
 // ---------------------------------------------------------------------------
 // Editors of the ribbon tree
 
@@ -410,14 +412,20 @@ QWidget* newQuickPanelNameEditor(const QList<QuickPanelTreeItem*>& items, QRibbo
     return widget;
 }
 
-ui::GroupButtonType commonGroupButtonType(const QList<QuickPanelTreeItem*>& items)
+ui::GroupButtonType groupButtonTypeOf(QuickPanelTreeItem* item)
 {
-    QuickActionItem* first = quickActionItem(items.value(0));
-    const ui::GroupButtonType type = first ? first->groupButtonType() : ui::Simple;
+    QuickActionItem* action = quickActionItem(item);
+    return action ? action->groupButtonType() : ui::Simple;
+}
+
+// The button type all @p items share; none when they differ, so that no
+// choice is offered as already made.
+std::optional<ui::GroupButtonType> commonGroupButtonType(const QList<QuickPanelTreeItem*>& items)
+{
+    const ui::GroupButtonType type = groupButtonTypeOf(items.value(0));
     for (QuickPanelTreeItem* item : items) {
-        QuickActionItem* action = quickActionItem(item);
-        if (!action || action->groupButtonType() != type)
-            return ui::Simple;
+        if (groupButtonTypeOf(item) != type)
+            return std::nullopt;
     }
     return type;
 }
@@ -565,7 +573,7 @@ QWidget* QuickPanelActionGroupItemEditor::editorWidget()
     if (m_widget)
         return m_widget;
     m_widget = newQuickPanelComposite();
-    const ui::GroupButtonType type = commonGroupButtonType(m_items);
+    const std::optional<ui::GroupButtonType> type = commonGroupButtonType(m_items);
     if (m_items.size() == 1) {
         // A dynamic group command shows its active command's text, so its
         // own name is not edited.
