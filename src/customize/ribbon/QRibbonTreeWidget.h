@@ -49,12 +49,13 @@ public:
     ui::RibbonBar* getRibbonBar() const;
     /// Offers @p action (not owned; may be null) as the command to add.
     void setMenuAction(QAction* action);
-    /// Offers @p action and adds it at the current item, as the add command button does.
-    void addItem(QAction* action);
     /// Clears the selection and the current index.
     void clearSelection();
 
 public slots:
+    /// Offers @p action and adds it at the current item, as the add command
+    /// button does; a slot, so that a command tree's double-click can reach it.
+    void addItem(QAction* action);
     /// Repaints the rows of the selected items after an editor changed them.
     void paramChanged();
 
