@@ -9,6 +9,33 @@
     </message>
 </context>
 <context>
+    <name>MainWindowSettingsWidget</name>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Панели инструментов</source>
+        <translation>Toolbars</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>Лента команд</source>
+        <translation>Ribbon</translation>
+    </message>
+    <message>
+        <source>Панель быстрого доступа</source>
+        <translation>Quick Access Toolbar</translation>
+    </message>
+    <message>
+        <source>Горячие клавиши</source>
+        <translation>Keyboard Shortcuts</translation>
+    </message>
+</context>
+<context>
     <name>QHotKeyPage</name>
     <message>
         <source>Form</source>

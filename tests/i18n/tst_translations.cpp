@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
@@ -106,6 +107,19 @@ private slots:
                                        QStringLiteral("Text beside the icon"), QStringLiteral("Text under the icon"),
                                        QStringLiteral("Default")}));
         QVERIFY(toolBar->actions().contains(command));
+    }
+
+    void customizeDialogForm()
+    {
+        ui::QCustomizeDlg dialog;
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Form"));
+        auto* tabs = dialog.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+        QVERIFY(tabs);
+        QStringList texts;
+        for (int i = 0; i < tabs->count(); ++i)
+            texts << tabs->tabText(i);
+        QCOMPARE(texts, (QStringList{QStringLiteral("Toolbars"), QStringLiteral("Ribbon"),
+                                     QStringLiteral("Quick Access Toolbar"), QStringLiteral("Keyboard Shortcuts")}));
     }
 
     void ribbonTreeTexts()
