@@ -25,6 +25,7 @@ class tst_RibbonTreeWidget : public QObject
 private slots:
     void form();
     void startsExpandedWithOnlyAddPanel();
+    void everyRowShownAfterEachUpdateModel();
     void addPanelWithNothingSelected();
     void addPanelAfterTheCurrentPanel();
     void siblingOnlySelection();
@@ -115,6 +116,44 @@ void tst_RibbonTreeWidget::startsExpandedWithOnlyAddPanel()
     e.widget.setMenuAction(e.ribbon.spare);
     QCOMPARE(e.enabledButtons(), QStringList{"addPanel"});
     QVERIFY(!e.editor());
+}
+
+namespace {
+
+int modelRows(const QAbstractItemModel& model, const QModelIndex& parent = QModelIndex())
+{
+    int rows = 0;
+    for (int row = 0; row < model.rowCount(parent); ++row)
+        rows += 1 + modelRows(model, model.index(row, 0, parent));
+    return rows;
+}
+
+int shownRows(const QTreeView& view)
+{
+    int rows = 0;
+    for (QModelIndex index = view.model()->index(0, 0); index.isValid(); index = view.indexBelow(index))
+        ++rows;
+    return rows;
+}
+
+} // namespace
+
+void tst_RibbonTreeWidget::everyRowShownAfterEachUpdateModel()
+{
+    Editor e;
+    // Pages, groups, commands and the commands of group commands.
+    QCOMPARE(modelRows(*e.model), 23);
+    QCOMPARE(shownRows(*e.view), modelRows(*e.model));
+    // A group command that gains its menu after the first load.
+    e.ribbon.table->setMenu(new QMenu(&e.widget));
+    e.ribbon.table->menu()->addAction(e.ribbon.spare);
+    e.widget.updateModel(&e.ribbon.bar);
+    QCOMPARE(modelRows(*e.model), 24);
+    QCOMPARE(shownRows(*e.view), modelRows(*e.model));
+    e.widget.updateModel(nullptr);
+    QCOMPARE(shownRows(*e.view), 0);
+    e.widget.updateModel(&e.ribbon.bar);
+    QCOMPARE(shownRows(*e.view), 24);
 }
 
 void tst_RibbonTreeWidget::addPanelWithNothingSelected()

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QItemSelection>
+#include <QVector>
 
 #include <algorithm>
 
@@ -32,7 +33,7 @@ QRibbonTreeWidget::QRibbonTreeWidget(QWidget* parent)
     m_ui->setupUi(this);
     m_model = new RibbonTreeModel(nullptr, m_ui->ribbonTreeView);
     m_ui->ribbonTreeView->setModel(m_model);
-    m_ui->ribbonTreeView->expandAll();
+    expandBranches();
     connect(m_ui->ribbonTreeView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &QRibbonTreeWidget::onRibbonTreeSelectionChanged);
     connect(m_ui->ribbonTreeView, &QWidget::customContextMenuRequested, this,
@@ -59,8 +60,25 @@ void QRibbonTreeWidget::updateModel(ui::RibbonBar* ribbonBar)
     // would point at the deleted items.
     m_selection.clear();
     m_model->setRibbonBar(ribbonBar);
-    m_ui->ribbonTreeView->expandAll();
+    expandBranches();
     updateStateUI();
+}
+
+void QRibbonTreeWidget::expandBranches()
+{
+    // QTreeView::expandAll() would mark each of the thousands of commands
+    // expanded too, a persistent index apiece. Right after the model's reset
+    // the view only notes each expansion and lays the rows out once, later.
+    QTreeView* view = m_ui->ribbonTreeView;
+    QVector<QModelIndex> pending{QModelIndex()};
+    while (!pending.isEmpty()) {
+        const QModelIndex parent = pending.takeLast();
+        const int rows = m_model->rowCount(parent);
+        if (rows > 0 && parent.isValid())
+            view->expand(parent);
+        for (int row = 0; row < rows; ++row)
+            pending.append(m_model->index(row, 0, parent));
+    }
 }
 
 ui::RibbonBar* QRibbonTreeWidget::getRibbonBar() const

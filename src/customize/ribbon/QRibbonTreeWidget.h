@@ -74,6 +74,7 @@ private slots:
 private:
     void createEditor();
     void updateStateUI();
+    void expandBranches();
     void select(const QModelIndex& index);
     void retireEditorWidget();
     QModelIndex currentIndex() const;
