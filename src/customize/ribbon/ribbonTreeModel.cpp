@@ -20,6 +20,11 @@ namespace {
 
 bool isMarked(const QObject* object, const char* property)
 {
+    // Views ask for every row's kind many times over. A plain QAction
+    // declares no such property, and most carry no dynamic one: no need to
+    // look the name up among QAction's declared properties.
+    if (object->metaObject() == &QAction::staticMetaObject && object->dynamicPropertyNames().isEmpty())
+        return false;
     const QVariant value = object->property(property);
     return value.isValid() && value.toBool();
 }
