@@ -14,7 +14,9 @@ namespace ui {
 namespace {
 
 // Depth first through @p menu: a submenu is descended into, every other
-// action (separators too) is entered with its shortcuts when first met.
+// action (separators too) is entered with its shortcuts. An action met a
+// second time keeps its first entry: entering it again stores the same
+// shortcuts, and spares a lookup for every action met once.
 void collectShortcuts(const QMenu* menu, QHotKeyPage::ShortcutTable* table, QSet<const QMenu*>* visited)
 {
     // A menu met again adds nothing new; a menu inside itself would never end.
@@ -25,7 +27,7 @@ void collectShortcuts(const QMenu* menu, QHotKeyPage::ShortcutTable* table, QSet
     for (QAction* action : actions) {
         if (action->menu())
             collectShortcuts(action->menu(), table, visited);
-        else if (!table->contains(action))
+        else
             table->insert(action, action->shortcuts());
     }
 }
