@@ -637,6 +637,22 @@ void drawGlyph(QPainter& p, DemoIcons::Glyph glyph, const QColor& accent)
         disk(p, 0, 0, 0.85);
         clock(p, QPointF(23, 23), 7);
         break;
+    case G::Keyboard:
+        // A rounded body with two rows of keys and a space bar.
+        p.save();
+        p.scale(2, 2);
+        p.setPen(QPen(QColor(0x44, 0x55, 0x66), 1));
+        p.setBrush(QColor(0xf4, 0xf6, 0xf8));
+        p.drawRoundedRect(QRectF(0.5, 3.5, 15, 9), 1.5, 1.5);
+        p.setPen(Qt::NoPen);
+        p.setBrush(QColor(0x44, 0x55, 0x66));
+        for (int row = 0; row < 2; ++row) {
+            for (int col = 0; col < 6; ++col)
+                p.drawRect(QRectF(2 + col * 2 + row, 5 + row * 2, 1.2, 1.2));
+        }
+        p.drawRect(QRectF(4, 9.5, 8, 1.3));
+        p.restore();
+        break;
     case G::Help:
     case G::About:
         p.setPen(Qt::NoPen);

@@ -21,7 +21,7 @@ public:
         Bold, Italic, Underline, StrikeOut, Superscript, Subscript, AlignLeft, AlignCenter,
         AlignRight, AlignJustify, Indent, Outdent, GrowFont, ShrinkFont, FontSize, ClearFormat,
         Highlight, TextColor,
-        WordCount, SortLines, TrimSpaces, AutoSave,
+        WordCount, SortLines, TrimSpaces, AutoSave, Keyboard,
         Help, About, AboutQt,
         GlyphCount
     };

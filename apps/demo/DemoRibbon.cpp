@@ -1,14 +1,18 @@
 #include "DemoRibbon.h"
 
 #include "DemoCommands.h"
+#include "DemoFontSizeAction.h"
 #include "DemoIcons.h"
-#include "DemoRibbonCommands.h"
+#include "DemoMenus.h"
+#include "DemoShortcutsDialog.h"
 
 #include <tessaro/RibbonBar.h>
+#include <tessaro/RibbonControls.h>
 
 #include <QtitanRibbon.h>
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
 
 namespace demo {
@@ -17,80 +21,218 @@ namespace {
 
 using C = DemoCommands;
 
-void addCommands(Qtitan::RibbonGroup* group, DemoCommands* commands, const QList<int>& ids,
-                 Qt::ToolButtonStyle style)
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("DemoRibbon", text);
+}
+
+// Builds the pages; ribbon-owned actions are children of the ribbon itself
+// (so they outlive the pages a restored layout replaces) and carry a stable
+// name for the stored layout.
+class RibbonBuilder
+{
+public:
+    RibbonBuilder(ui::RibbonBar* ribbon, DemoCommands* commands)
+        : m_ribbon(ribbon)
+        , m_commands(commands)
+    {
+    }
+
+    void addSystemMenu(QWidget* window);
+    void addHomePage();
+    void addInsertPage();
+    void addViewPage(QMenu* panelsMenu, QMenu* styleMenu);
+    void addToolsPage();
+    void addQuickAccessBar();
+
+private:
+    void addCommands(Qtitan::RibbonGroup* group, const QList<int>& ids, Qt::ToolButtonStyle style);
+    QAction* ribbonAction(const QString& name, const QIcon& icon, const QString& text);
+    QMenu* commandMenu(const QList<int>& ids);
+    QMenu* rangeMenu(int first, int last);
+    void addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, const QIcon& icon, const QString& text,
+                         QMenu* menu, Qt::ToolButtonStyle style, ui::GroupButtonType type);
+    void addMenuButton(Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon, const QString& text,
+                       const QString& name);
+
+    ui::RibbonBar* m_ribbon;
+    DemoCommands* m_commands;
+};
+
+void RibbonBuilder::addCommands(Qtitan::RibbonGroup* group, const QList<int>& ids, Qt::ToolButtonStyle style)
 {
     for (int id : ids) {
-        if (QAction* action = commands->action(id))
+        if (QAction* action = m_commands->action(id))
             group->addAction(action, style);
     }
 }
 
-// A big button that opens a menu of the host's, filled when it opens. The
-// action belongs to the ribbon and is stored by name in the saved layout.
-void addMenuButton(Qtitan::RibbonBar* ribbon, Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon,
-                   const QString& text, const QString& name)
+QAction* RibbonBuilder::ribbonAction(const QString& name, const QIcon& icon, const QString& text)
 {
-    auto* action = new QAction(icon, text, ribbon);
+    auto* action = new QAction(icon, text, m_ribbon);
     action->setObjectName(QStringLiteral("ribbon.") + name);
+    return action;
+}
+
+QMenu* RibbonBuilder::commandMenu(const QList<int>& ids)
+{
+    auto* menu = new QMenu(m_ribbon);
+    for (int id : ids) {
+        if (id == 0)
+            menu->addSeparator();
+        else if (QAction* action = m_commands->action(id))
+            menu->addAction(action);
+    }
+    return menu;
+}
+
+QMenu* RibbonBuilder::rangeMenu(int first, int last)
+{
+    QList<int> ids;
+    for (int id = first; id <= last; ++id)
+        ids << id;
+    return commandMenu(ids);
+}
+
+// A group command: a button whose menu holds commands; its kind decides what its face shows.
+void RibbonBuilder::addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, const QIcon& icon,
+                                    const QString& text, QMenu* menu, Qt::ToolButtonStyle style,
+                                    ui::GroupButtonType type)
+{
+    QAction* action = ribbonAction(name, icon, text);
+    action->setMenu(menu);
+    group->addAction(action);
+    ui::setActionButtonStyle(group, action, style);
+    ui::setGroupButtonType(group, action, type);
+}
+
+// A big button that opens a menu of the host's, filled when it opens; stored
+// without its entries.
+void RibbonBuilder::addMenuButton(Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon, const QString& text,
+                                  const QString& name)
+{
+    QAction* action = ribbonAction(name, icon, text);
     action->setProperty("isDynamic", true);
     group->addAction(action, Qt::ToolButtonTextUnderIcon, menu, QToolButton::InstantPopup);
 }
 
-} // namespace
-
-Qtitan::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* styleMenu, QWidget* parent)
+void RibbonBuilder::addSystemMenu(QWidget* window)
 {
-    auto* ribbon = new ui::RibbonBar(QStringLiteral("DemoRibbon"), parent);
-    ribbon->setObjectName(QStringLiteral("demoRibbon"));
+    QAction* file = ribbonAction(QStringLiteral("file"), QIcon(), tr("File"));
+    file->setToolTip(tr("Create, open, save and export documents"));
+    file->setMenu(commandMenu({C::FileNew, C::FileOpen, C::FileSave, C::FileSaveAs, C::FileSaveAll, 0,
+                               C::FileExportHtml, C::FileExportText, C::FileProperties, 0, C::FileClose,
+                               C::FileCloseAll}));
+    m_ribbon->setSystemButtonAction(file);
 
-    Qtitan::RibbonPage* home = ribbon->addPage(QObject::tr("Home"));
-    Qtitan::RibbonGroup* clipboard = home->addGroup(QObject::tr("Clipboard"));
-    addCommands(clipboard, commands, {C::EditPaste}, Qt::ToolButtonTextUnderIcon);
-    addCommands(clipboard, commands, {C::EditCut, C::EditCopy, C::EditPastePlain}, Qt::ToolButtonTextBesideIcon);
-    Qtitan::RibbonGroup* undo = home->addGroup(QObject::tr("Undo"));
-    addCommands(undo, commands, {C::EditUndo, C::EditRedo}, Qt::ToolButtonTextBesideIcon);
-    Qtitan::RibbonGroup* font = home->addGroup(QObject::tr("Font"));
-    addCommands(font, commands,
+    QAction* options = ribbonAction(QStringLiteral("options"), DemoIcons::icon(DemoIcons::ToolBar), tr("Options"));
+    DemoCommands* commands = m_commands;
+    QObject::connect(options, &QAction::triggered, window, [commands, window] {
+        DemoShortcutsDialog dialog(commands->menus().root(), window);
+        if (dialog.exec() == QDialog::Accepted)
+            dialog.apply();
+    });
+    m_ribbon->addPopupBarAction(options);
+    if (QAction* exit = m_commands->action(C::FileExit))
+        m_ribbon->addPopupBarAction(exit);
+}
+
+void RibbonBuilder::addHomePage()
+{
+    Qtitan::RibbonPage* home = m_ribbon->addPage(tr("Home"));
+    // Paste always shows Paste; the plain text variant is in its menu.
+    Qtitan::RibbonGroup* clipboard = home->addGroup(tr("Clipboard"));
+    QAction* paste = m_commands->action(C::EditPaste);
+    addGroupCommand(clipboard, QStringLiteral("paste"), paste->icon(), paste->text(),
+                    commandMenu({C::EditPaste, C::EditPastePlain}), Qt::ToolButtonTextUnderIcon, ui::DynamicLite);
+    addCommands(clipboard, {C::EditCut, C::EditCopy}, Qt::ToolButtonTextBesideIcon);
+
+    Qtitan::RibbonGroup* undo = home->addGroup(tr("Undo"));
+    addCommands(undo, {C::EditUndo, C::EditRedo}, Qt::ToolButtonTextBesideIcon);
+
+    // Text Color remembers the colour picked last; a separator and the size box follow.
+    Qtitan::RibbonGroup* font = home->addGroup(tr("Font"));
+    addCommands(font,
                 {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
                  C::FormatSubscript, C::FormatHighlight, C::FormatGrowFont, C::FormatShrinkFont, C::FormatClear},
                 Qt::ToolButtonIconOnly);
-    Qtitan::RibbonGroup* paragraph = home->addGroup(QObject::tr("Paragraph"));
-    addCommands(paragraph, commands,
+    addGroupCommand(font, QStringLiteral("textColor"), DemoIcons::icon(DemoIcons::TextColor), tr("Text Color"),
+                    rangeMenu(C::FormatColorFirst, C::FormatColorLast), Qt::ToolButtonIconOnly, ui::Dynamic);
+    auto* separator = new QAction(m_ribbon);
+    separator->setSeparator(true);
+    font->addAction(separator);
+    font->addAction(new DemoFontSizeAction(m_commands, m_ribbon));
+
+    Qtitan::RibbonGroup* paragraph = home->addGroup(tr("Paragraph"));
+    addCommands(paragraph,
                 {C::FormatAlignLeft, C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify,
                  C::FormatOutdent, C::FormatIndent, C::InsertBulletList, C::InsertNumberedList},
                 Qt::ToolButtonIconOnly);
-    Qtitan::RibbonGroup* editing = home->addGroup(QObject::tr("Editing"));
-    addCommands(editing, commands, {C::EditFind, C::EditReplace, C::EditSelectAll}, Qt::ToolButtonTextBesideIcon);
+    Qtitan::RibbonGroup* editing = home->addGroup(tr("Editing"));
+    addCommands(editing, {C::EditFind, C::EditReplace, C::EditSelectAll}, Qt::ToolButtonTextBesideIcon);
+}
 
-    Qtitan::RibbonPage* insert = ribbon->addPage(QObject::tr("Insert"));
-    Qtitan::RibbonGroup* tables = insert->addGroup(QObject::tr("Tables"));
-    addCommands(tables, commands, {C::InsertTable}, Qt::ToolButtonTextUnderIcon);
-    Qtitan::RibbonGroup* illustrations = insert->addGroup(QObject::tr("Illustrations"));
-    addCommands(illustrations, commands, {C::InsertImage}, Qt::ToolButtonTextUnderIcon);
-    addCommands(illustrations, commands, {C::InsertHorizontalLine}, Qt::ToolButtonTextBesideIcon);
-    Qtitan::RibbonGroup* text = insert->addGroup(QObject::tr("Text"));
-    addCommands(text, commands, {C::InsertDate, C::InsertTime, C::InsertLink}, Qt::ToolButtonTextBesideIcon);
+void RibbonBuilder::addInsertPage()
+{
+    Qtitan::RibbonPage* insert = m_ribbon->addPage(tr("Insert"));
+    Qtitan::RibbonGroup* tables = insert->addGroup(tr("Tables"));
+    addCommands(tables, {C::InsertTable}, Qt::ToolButtonTextUnderIcon);
+    Qtitan::RibbonGroup* illustrations = insert->addGroup(tr("Illustrations"));
+    addCommands(illustrations, {C::InsertImage}, Qt::ToolButtonTextUnderIcon);
+    addCommands(illustrations, {C::InsertHorizontalLine}, Qt::ToolButtonTextBesideIcon);
+    // Symbol only opens its menu.
+    Qtitan::RibbonGroup* text = insert->addGroup(tr("Text"));
+    addCommands(text, {C::InsertDate, C::InsertTime, C::InsertLink}, Qt::ToolButtonTextBesideIcon);
+    addGroupCommand(text, QStringLiteral("symbol"), DemoIcons::icon(DemoIcons::Symbol), tr("Symbol"),
+                    rangeMenu(C::InsertSymbolFirst, C::InsertSymbolLast), Qt::ToolButtonTextUnderIcon, ui::Simple);
+}
 
-    Qtitan::RibbonPage* view = ribbon->addPage(QObject::tr("View"));
-    Qtitan::RibbonGroup* window = view->addGroup(QObject::tr("Window"));
-    addMenuButton(ribbon, window, panelsMenu, DemoIcons::icon(DemoIcons::ToolBar), QObject::tr("Panels"),
-                  QStringLiteral("panels"));
-    addMenuButton(ribbon, window, styleMenu, DemoIcons::icon(DemoIcons::TextColor, QColor(43, 87, 154)), QObject::tr("Style"),
+void RibbonBuilder::addViewPage(QMenu* panelsMenu, QMenu* styleMenu)
+{
+    Qtitan::RibbonPage* view = m_ribbon->addPage(tr("View"));
+    Qtitan::RibbonGroup* window = view->addGroup(tr("Window"));
+    addMenuButton(window, panelsMenu, DemoIcons::icon(DemoIcons::ToolBar), tr("Panels"), QStringLiteral("panels"));
+    addMenuButton(window, styleMenu, DemoIcons::icon(DemoIcons::TextColor, QColor(43, 87, 154)), tr("Style"),
                   QStringLiteral("style"));
-    Qtitan::RibbonGroup* show = view->addGroup(QObject::tr("Show"));
-    addCommands(show, commands, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar}, Qt::ToolButtonTextBesideIcon);
-    Qtitan::RibbonGroup* zoom = view->addGroup(QObject::tr("Zoom"));
-    addCommands(zoom, commands, {C::ViewZoomIn, C::ViewZoomOut, C::ViewZoomReset}, Qt::ToolButtonTextBesideIcon);
-    Qtitan::RibbonGroup* documents = view->addGroup(QObject::tr("Documents"));
-    addCommands(documents, commands, {C::ViewPreviousDocument, C::ViewNextDocument, C::FileClose},
-                Qt::ToolButtonTextBesideIcon);
+    Qtitan::RibbonGroup* show = view->addGroup(tr("Show"));
+    addCommands(show, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar}, Qt::ToolButtonTextBesideIcon);
+    Qtitan::RibbonGroup* zoom = view->addGroup(tr("Zoom"));
+    addCommands(zoom, {C::ViewZoomIn, C::ViewZoomOut, C::ViewZoomReset}, Qt::ToolButtonTextBesideIcon);
+    Qtitan::RibbonGroup* documents = view->addGroup(tr("Documents"));
+    addCommands(documents, {C::ViewPreviousDocument, C::ViewNextDocument, C::FileClose}, Qt::ToolButtonTextBesideIcon);
+}
 
-    for (int id : {C::FileSave, C::EditUndo, C::EditRedo}) {
-        if (QAction* action = commands->action(id))
-            ribbon->quickAccessBar()->addAction(action);
+void RibbonBuilder::addToolsPage()
+{
+    Qtitan::RibbonPage* tools = m_ribbon->addPage(tr("Tools"));
+    Qtitan::RibbonGroup* text = tools->addGroup(tr("Text"));
+    addCommands(text, {C::ToolsWordCount}, Qt::ToolButtonTextUnderIcon);
+    addCommands(text, {C::ToolsSortLines, C::ToolsTrimSpaces, C::EditDuplicateLine}, Qt::ToolButtonTextBesideIcon);
+    Qtitan::RibbonGroup* saving = tools->addGroup(tr("Saving"));
+    addCommands(saving, {C::ToolsAutoSave, C::FileSaveAll}, Qt::ToolButtonTextUnderIcon);
+}
+
+void RibbonBuilder::addQuickAccessBar()
+{
+    for (int id : {C::FileNew, C::FileSave, C::EditUndo, C::EditRedo}) {
+        if (QAction* action = m_commands->action(id))
+            m_ribbon->addQuickAction(action);
     }
-    addRibbonCommands(ribbon, commands, parent);
+}
+
+} // namespace
+
+ui::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* styleMenu, QWidget* window)
+{
+    auto* ribbon = new ui::RibbonBar(QStringLiteral("DemoRibbon"), window);
+    ribbon->setObjectName(QStringLiteral("demoRibbon"));
+    RibbonBuilder builder(ribbon, commands);
+    builder.addSystemMenu(window);
+    builder.addHomePage();
+    builder.addInsertPage();
+    builder.addViewPage(panelsMenu, styleMenu);
+    builder.addToolsPage();
+    builder.addQuickAccessBar();
     return ribbon;
 }
 

@@ -1,10 +1,7 @@
 #include "DemoShortcutsDialog.h"
 
-#include "DemoCommands.h"
-#include "DemoSettings.h"
-#include "DemoWindow.h"
+#include "DemoShortcutSettings.h"
 
-#include <tessaro/CommandsRegistry.h>
 #include <tessaro/MenuTreeWidget.h>
 
 #include <QAction>
@@ -12,12 +9,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
-#include <QSet>
 #include <QSplitter>
 #include <QVBoxLayout>
-
-#include <functional>
 
 namespace {
 
@@ -30,45 +23,6 @@ void collect(QMenu* menu, DemoShortcutsDialog::Table& table)
         else if (!table.contains(action))
             table.insert(action, action->shortcuts());
     }
-}
-
-void walk(QMenu* menu, QSet<QMenu*>& seen, const std::function<void(QAction*)>& visit)
-{
-    if (seen.contains(menu))
-        return;
-    seen.insert(menu);
-    const QList<QAction*> actions = menu->actions();
-    for (QAction* action : actions) {
-        if (QMenu* sub = action->menu())
-            walk(sub, seen, visit);
-        else
-            visit(action);
-    }
-}
-
-// A small keyboard: a rounded body with three rows of keys.
-QIcon keyboardIcon()
-{
-    QIcon icon;
-    for (int size : {16, 32}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(Qt::transparent);
-        QPainter p(&pixmap);
-        p.setRenderHint(QPainter::Antialiasing);
-        p.scale(size / 16.0, size / 16.0);
-        p.setPen(QPen(QColor(0x44, 0x55, 0x66), 1));
-        p.setBrush(QColor(0xf4, 0xf6, 0xf8));
-        p.drawRoundedRect(QRectF(0.5, 3.5, 15, 9), 1.5, 1.5);
-        p.setPen(Qt::NoPen);
-        p.setBrush(QColor(0x44, 0x55, 0x66));
-        for (int row = 0; row < 2; ++row) {
-            for (int col = 0; col < 6; ++col)
-                p.drawRect(QRectF(2 + col * 2 + row, 5 + row * 2, 1.2, 1.2));
-        }
-        p.drawRect(QRectF(4, 9.5, 8, 1.3));
-        icon.addPixmap(pixmap);
-    }
-    return icon;
 }
 
 } // namespace
@@ -141,92 +95,14 @@ QList<QAction*> DemoShortcutsDialog::applyShortcuts(const Table& table)
     return changed;
 }
 
-namespace DemoShortcuts {
-
-QAction* registerCommand(ui::CommandsRegistry* registry, DemoWindow* window, int id)
-{
-    QAction* action = registry->addCommand(keyboardIcon(), DemoShortcutsDialog::tr("&Keyboard Shortcuts…"), id);
-    action->setStatusTip(DemoShortcutsDialog::tr("Change the key combinations of the commands"));
-    registry->ConnectCommand(id, [window] {
-        open(window->commands()->rootMenu(), window->settings(), window);
-    });
-    return action;
-}
-
-DemoShortcutsDialog* open(QMenu* commands, DemoSettings& settings, QWidget* parent)
+DemoShortcutsDialog* DemoShortcutsDialog::editShortcuts(QMenu* commands, DemoSettings& settings, QWidget* parent)
 {
     auto* dialog = new DemoShortcutsDialog(commands, parent);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowModality(Qt::ApplicationModal);
-    QObject::connect(dialog, &QDialog::accepted, dialog, [dialog, &settings] {
-        const QList<QAction*> changed = dialog->apply();
-        if (changed.isEmpty())
-            return;
-        const QString key = DemoShortcutSettings::settingsKey;
-        settings.setValue(key, DemoShortcutSettings::merge(settings.value(key).toMap(), changed));
+    connect(dialog, &QDialog::accepted, dialog, [dialog, &settings] {
+        DemoShortcutSettings::keep(settings, dialog->apply());
     });
     dialog->show();
     return dialog;
 }
-
-int restore(const DemoSettings& settings, QMenu* commands)
-{
-    return DemoShortcutSettings::restore(settings.value(DemoShortcutSettings::settingsKey).toMap(), commands);
-}
-
-} // namespace DemoShortcuts
-
-namespace DemoShortcutSettings {
-
-const QString settingsKey = QStringLiteral("keyboardShortcuts");
-
-QString commandKey(const QAction* action)
-{
-    bool ok = false;
-    const int id = action->data().toInt(&ok);
-    if (ok && id > 0)
-        return QStringLiteral("id:%1").arg(id);
-    if (!action->objectName().isEmpty())
-        return QStringLiteral("name:") + action->objectName();
-    return QString();
-}
-
-QVariantMap merge(QVariantMap saved, const QList<QAction*>& changed)
-{
-    for (const QAction* action : changed) {
-        const QString key = commandKey(action);
-        if (key.isEmpty())
-            continue;
-        QStringList texts;
-        for (const QKeySequence& sequence : action->shortcuts())
-            texts << sequence.toString(QKeySequence::PortableText);
-        saved.insert(key, texts);
-    }
-    return saved;
-}
-
-int restore(const QVariantMap& saved, QMenu* menu)
-{
-    if (!menu || saved.isEmpty())
-        return 0;
-    int count = 0;
-    QSet<QMenu*> seen;
-    walk(menu, seen, [&saved, &count](QAction* action) {
-        const auto it = saved.constFind(commandKey(action));
-        if (action->isSeparator() || it == saved.cend())
-            return;
-        QList<QKeySequence> shortcuts;
-        for (const QString& text : it.value().toStringList()) {
-            const QKeySequence sequence(text, QKeySequence::PortableText);
-            if (!sequence.isEmpty())
-                shortcuts << sequence;
-        }
-        if (action->shortcuts() != shortcuts) {
-            action->setShortcuts(shortcuts);
-            ++count;
-        }
-    });
-    return count;
-}
-
-} // namespace DemoShortcutSettings

@@ -1,5 +1,7 @@
 #include "DemoStyles.h"
 
+#include "DemoShellOptions.h"
+
 #include <QtitanRibbon.h>
 
 #include <QActionGroup>
@@ -9,6 +11,8 @@
 #include <algorithm>
 
 namespace demo {
+
+const QString styleKey = QStringLiteral("style");
 
 namespace {
 
@@ -43,6 +47,18 @@ const Family* familyOf(int style)
 }
 
 } // namespace
+
+int initialStyle(const ShellOptions& options, const QVariant& saved,
+                 const std::vector<ui::MainWindow::Style>& supported)
+{
+    if (options.hasStyle && isKnownStyle(options.style, supported))
+        return options.style;
+    bool ok = false;
+    const int value = saved.toInt(&ok);
+    if (saved.isValid() && ok && isKnownStyle(value, supported))
+        return value;
+    return ui::MainWindow::Office2016Colorful;
+}
 
 QStyle* createStyle(int style)
 {

@@ -4,6 +4,7 @@
 #include <tessaro/MainWindow.h>
 
 #include <QString>
+#include <QVariant>
 
 #include <vector>
 
@@ -11,6 +12,16 @@ class QActionGroup;
 class QStyle;
 
 namespace demo {
+
+struct ShellOptions;
+
+/// The settings key under which the chosen style is kept.
+extern const QString styleKey;
+
+/// Picks the style to start with: the command line's, else the saved one,
+/// else Office 2016 Colorful; values the window does not offer are skipped.
+int initialStyle(const ShellOptions& options, const QVariant& saved,
+                 const std::vector<ui::MainWindow::Style>& supported);
 
 /// A new style object for a ui::MainWindow::Style value; the plain Qt
 /// "Fusion" style for UnknownStyle and any value outside the ribbon families.

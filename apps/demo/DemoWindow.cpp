@@ -1,22 +1,31 @@
 #include "DemoWindow.h"
 
+#include "DemoAutoSave.h"
+#include "DemoClassicMenuBar.h"
 #include "DemoCommands.h"
 #include "DemoDocument.h"
+#include "DemoDocumentArea.h"
+#include "DemoFiles.h"
 #include "DemoFindBar.h"
 #include "DemoIcons.h"
-#include "DemoSearch.h"
+#include "DemoMenus.h"
+#include "DemoQuickSearch.h"
+#include "DemoRibbon.h"
 #include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
+#include "DemoStyles.h"
+#include "DemoWelcome.h"
 
 #include <tessaro/CommandsRegistry.h>
+#include <tessaro/DockListMenu.h>
 #include <tessaro/MdiArea.h>
+#include <tessaro/RibbonBar.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMessageBox>
 #include <QStatusBar>
 #include <QTextCursor>
@@ -37,7 +46,7 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
     // Shortcuts work whatever shows the actions (menus, tool bars or a ribbon).
     addActions(m_commands->registry()->getActions());
     createMenus();
-    demo::createQuickSearch(this, m_commands->categoryMenus());
+    demo::createQuickSearch(this, m_commands->menus().categories());
     createToolBars();
     createStatusBar();
     restoreSettings();
@@ -141,15 +150,15 @@ void DemoWindow::saveSettings()
         m_settings->setValue(DemoSettings::wordWrapKey, doc->wordWrap());
         m_settings->setValue(DemoSettings::rulerKey, doc->isRulerVisible());
     }
-    m_settings->setValue(DemoSettings::autoSaveKey, m_commands->autoSave());
+    m_settings->setValue(DemoSettings::autoSaveKey, m_commands->autoSave()->isOn());
     m_settings->setValue(DemoSettings::findTextKey, m_findBar->findText());
-    m_settings->setRecentFiles(m_commands->recentFiles());
+    m_settings->setRecentFiles(m_commands->files()->recentFiles());
 }
 
 void DemoWindow::closeEvent(QCloseEvent* event)
 {
     for (DemoDocument* doc : documents()) {
-        if (doc->isModified() && !m_commands->close(doc)) {
+        if (doc->isModified() && !m_commands->files()->close(doc)) {
             event->ignore();
             return;
         }
@@ -191,15 +200,15 @@ namespace {
 class CloseThroughCommand : public QObject
 {
 public:
-    CloseThroughCommand(DemoCommands* commands, DemoDocument* document, QObject* parent)
-        : QObject(parent), m_commands(commands), m_document(document) {}
+    CloseThroughCommand(DemoFiles* files, DemoDocument* document, QObject* parent)
+        : QObject(parent), m_files(files), m_document(document) {}
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Close && !m_closing) {
             event->ignore();
             m_closing = true;
-            m_commands->close(m_document);
+            m_files->close(m_document);
             m_closing = false;
             return true;
         }
@@ -207,7 +216,7 @@ public:
     }
 
 private:
-    DemoCommands* m_commands;
+    DemoFiles* m_files;
     DemoDocument* m_document;
     bool m_closing = false;
 };
@@ -223,7 +232,7 @@ void DemoWindow::addDocument(DemoDocument* document)
 {
     QMdiSubWindow* window = m_area->addSubWindow(document);
     window->setWindowIcon(DemoIcons::icon(DemoIcons::New));
-    window->installEventFilter(new CloseThroughCommand(m_commands, document, window));
+    window->installEventFilter(new CloseThroughCommand(m_commands->files(), document, window));
     const auto retitle = [this, document, window] {
         window->setWindowTitle(document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));
         window->setToolTip(document->filePath());
@@ -310,42 +319,62 @@ void DemoWindow::information(const QString& title, const QString& text)
     box->open();
 }
 
-bool DemoWindow::saveScreenshot(const QString& fileName, const QSize& size)
-{
-    setWindowState(Qt::WindowNoState);
-    resize(size);
-    show();
-    // Let the window lay out, paint, and the registry refresh the actions.
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < 600)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
-    return grab().save(fileName, "PNG");
-}
-
 void DemoWindow::openWelcomeDocument()
 {
-    DemoDocument* doc = m_commands->newDocument();
-    doc->setContent(tr(
-        "<h1>Welcome to the Tessaro demo</h1>"
-        "<p>This window is a small rich-text editor built on the <b>Tessaro</b> command registry. "
-        "Every menu entry and toolbar button is a <i>command</i>: an id bound to an action, a run handler "
-        "and an update handler that enables, checks or renames it whenever the event loop wakes up.</p>"
-        "<h3>Things to try</h3>"
-        "<ul>"
-        "<li>Select a word: <b>Cut</b> and <b>Copy</b> become available, and <b>Bold</b> shows the word's format.</li>"
-        "<li>Type something, then open the <b>Edit</b> menu: Undo tells what it will undo.</li>"
-        "<li><b>View &rsaquo; Zoom</b> and <b>Format &rsaquo; Font Size</b> are id ranges served by one handler each.</li>"
-        "<li><b>View &rsaquo; Hide Ruler</b> renames itself to Show Ruler once the ruler is hidden.</li>"
-        "</ul>"
-        "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
-        "<tr><th>Menu</th><th>Examples</th></tr>"
-        "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"
-        "<tr><td>Insert</td><td>Date, Table, Image Placeholder, Symbol</td></tr>"
-        "<tr><td>Format</td><td>Bold, Alignment, Font Size, Text Colour</td></tr>"
-        "</table>"
-        "<p>Settings such as the window geometry, zoom and recent files are kept in a key/value store "
-        "in the user's configuration folder.</p>"));
-    doc->setUntitledTitle(tr("Welcome"));
+    DemoDocument* doc = m_commands->files()->newDocument();
+    doc->setContent(DemoWelcome::html());
+    doc->setUntitledTitle(DemoWelcome::title());
     doc->moveCursor(QTextCursor::Start);
+}
+
+void DemoWindow::applyInitialStyle(const demo::ShellOptions& shell)
+{
+    const int style = demo::initialStyle(shell, m_settings->value(demo::styleKey), getSupportedStyles());
+    demo::applyStyle(style);
+}
+
+void DemoWindow::chooseStyle(int style)
+{
+    demo::applyStyle(style);
+    m_settings->setValue(demo::styleKey, style);
+    const QString label = demo::styleLabel(currentStyle());
+    demo::appendLog(m_docks, tr("Style: %1").arg(label));
+    showMessage(tr("Style: %1").arg(label));
+}
+
+void DemoWindow::createShell()
+{
+    demo::keepTabTextReadable(m_area);
+    demo::activateCurrentOnShow(m_area);
+    m_docks = demo::createDocks(this);
+    demo::appendLog(m_docks, tr("Started with %1 (%2).")
+                                 .arg(demo::styleLabel(currentStyle()))
+                                 .arg(m_classic ? tr("classic menu bar") : tr("ribbon")));
+
+    // The View menu lists the panels and the styles; both are rebuilt each time they open.
+    m_panelsMenu = new ui::DockListMenu(this);
+    m_panelsMenu->menuAction()->setProperty("isDynamic", true);
+    m_styleMenu = new demo::StyleMenu(this, getSupportedStyles(), this);
+    m_styleMenu->menuAction()->setProperty("isDynamic", true);
+    connect(m_styleMenu, &demo::StyleMenu::styleChosen, this, &DemoWindow::chooseStyle);
+    QMenu* view = m_commands->menus().category(DemoMenus::View);
+    view->addSeparator();
+    view->addMenu(m_panelsMenu);
+    view->addMenu(m_styleMenu);
+
+    if (m_classic) {
+        QList<QAction*> corner;
+        for (int id : {DemoCommands::ViewPreviousDocument, DemoCommands::ViewNextDocument, DemoCommands::FileClose,
+                       DemoCommands::HelpContents}) {
+            if (QAction* action = m_commands->action(id))
+                corner << action;
+        }
+        demo::installClassicMenuBar(this, m_commands->menus().categories(), corner);
+    } else {
+        // A menu shown by a ribbon button takes that button's action as its own,
+        // so the ribbon gets menus of its own.
+        auto* ribbonStyles = new demo::StyleMenu(this, getSupportedStyles(), this);
+        connect(ribbonStyles, &demo::StyleMenu::styleChosen, this, &DemoWindow::chooseStyle);
+        setRibbonBar(demo::createRibbon(m_commands, new ui::DockListMenu(this), ribbonStyles, this));
+    }
 }

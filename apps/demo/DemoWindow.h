@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DemoDocks.h"
-#include "DemoShell.h"
+#include "DemoShellOptions.h"
 
 #include <tessaro/MainWindow.h>
 
@@ -23,9 +23,10 @@ class DockListMenu;
 class MdiArea;
 }
 
-/// The demo's main window: the menu bar built from the command categories,
-/// two tool bars, the document area, a find bar and a status bar. It owns the
-/// settings (read when it is created, written when it closes) and the command set.
+/// The demo's main window: the ribbon (or, in classic mode, the menu bar of
+/// the command categories), two tool bars, the dock panels, the tabbed
+/// document area, a find bar and a status bar. It owns the settings (read when
+/// it is created, written when it closes) and the command set.
 ///
 /// Documents are reached only through activeDocument(), documents(),
 /// addDocument(), activateDocument() and removeDocument(), so that the
@@ -60,13 +61,10 @@ public:
     /// A non-blocking message box.
     void information(const QString& title, const QString& text);
 
-    /// Shows the window at \a size, lets it lay out and saves a picture of it.
-    bool saveScreenshot(const QString& fileName, const QSize& size);
-
     /// Makes the window open with the welcome document (done when nothing else is opened).
     void openWelcomeDocument();
 
-    // The shell (DemoWindowShell.cpp).
+    // The shell: the ribbon or the classic menu bar, the panels and the style.
     bool isClassic() const { return m_classic; }
     ui::MdiArea* documentArea() const { return m_area; }
     const demo::DemoDocks& docks() const { return m_docks; }

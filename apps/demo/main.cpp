@@ -1,8 +1,9 @@
 #include "DemoCommands.h"
+#include "DemoFiles.h"
 #include "DemoOptions.h"
 #include "DemoRibbonSerializer.h"
-#include "DemoSearch.h"
-#include "DemoShell.h"
+#include "DemoScreenshots.h"
+#include "DemoShellOptions.h"
 #include "DemoWindow.h"
 #include <tessaro/QuickSearch.h>
 
@@ -41,16 +42,16 @@ int main(int argc, char* argv[])
     DemoWindow window(options.settingsFile, nullptr, shell);
     demo::restoreRibbonLayout(window, options.resetLayout);
     for (const QString& file : qAsConst(options.files))
-        window.commands()->openFile(file);
+        window.commands()->files()->openFile(file);
     if (window.documents().isEmpty())
         window.openWelcomeDocument();
 
     if (!options.screenshotFile.isEmpty()) {
         const QString path = QFileInfo(options.screenshotFile).absoluteFilePath();
         const bool saved = options.searchText.isEmpty()
-            ? window.saveScreenshot(path, options.screenshotSize)
-            : demo::saveQuickSearchScreenshot(&window, window.findChild<ui::QuickSearchWidget*>(QStringLiteral("quickSearch")),
-                                              options.searchText, path);
+            ? demo::saveWindowPicture(&window, options.screenshotSize, path)
+            : demo::saveQuickSearchPicture(&window, window.findChild<ui::QuickSearchWidget*>(QStringLiteral("quickSearch")),
+                                           options.searchText, path);
         if (!saved) {
             QTextStream(stderr) << "Cannot write " << QDir::toNativeSeparators(path) << '\n';
             return 1;

@@ -1,4 +1,9 @@
 #include "DemoCommands.h"
+#include "DemoFiles.h"
+#include "DemoFormatCommands.h"
+#include "DemoInsertCommands.h"
+#include "DemoMenus.h"
+#include "DemoViewCommands.h"
 #include "DemoDocument.h"
 #include "DemoFindBar.h"
 #include "DemoIcons.h"
@@ -93,7 +98,7 @@ void tst_Demo::init()
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
     m_window = std::make_unique<DemoWindow>(m_dir->filePath(QStringLiteral("settings.dat")));
-    m_window->commands()->newDocument();
+    m_window->commands()->files()->newDocument();
     QVERIFY(document());
 }
 
@@ -131,9 +136,9 @@ void tst_Demo::commandSetIsComplete()
 
 void tst_Demo::everyCommandIsInTheMenuTree()
 {
-    QMenu* root = m_window->commands()->rootMenu();
-    const QList<QMenu*> categories = m_window->commands()->categoryMenus();
-    QCOMPARE(categories.size(), int(C::CategoryCount));
+    QMenu* root = m_window->commands()->menus().root();
+    const QList<QMenu*> categories = m_window->commands()->menus().categories();
+    QCOMPARE(categories.size(), int(DemoMenus::CategoryCount));
     QCOMPARE(root->actions().size(), categories.size());
     QStringList titles;
     for (int i = 0; i < categories.size(); ++i) {
@@ -157,7 +162,7 @@ void tst_Demo::everyCommandIsInTheMenuTree()
     walk(root);
     for (QAction* a : m_window->commands()->registry()->getActions())
         QVERIFY2(reachable.contains(a), qPrintable(a->text()));
-    QVERIFY(submenus > C::CategoryCount);
+    QVERIFY(submenus > DemoMenus::CategoryCount);
     // The classic menu bar shows the same category menus.
     demo::ShellOptions classic;
     classic.classic = true;
@@ -167,7 +172,7 @@ void tst_Demo::everyCommandIsInTheMenuTree()
     QList<QMenu*> barMenus;
     for (QAction* a : menuBar->findChild<QMenuBar*>()->actions())
         barMenus << a->menu();
-    QCOMPARE(barMenus, classicWindow.commands()->categoryMenus());
+    QCOMPARE(barMenus, classicWindow.commands()->menus().categories());
 }
 
 void tst_Demo::iconsAreDrawn()
@@ -310,7 +315,7 @@ void tst_Demo::rulerCommandIsRenamed()
 void tst_Demo::zoomRangeHandlerGetsTheId()
 {
     DemoDocument* doc = document();
-    const QList<int> levels = C::zoomLevels();
+    const QList<int> levels = DemoViewCommands::zoomLevels();
     QCOMPARE(C::ViewZoomLast - C::ViewZoomFirst + 1, levels.size());
     for (int i = levels.size() - 1; i >= 0; --i) {
         action(C::ViewZoomFirst + i)->trigger();
@@ -334,7 +339,7 @@ void tst_Demo::fontSizeRangeHandlerGetsTheId()
     DemoDocument* doc = document();
     doc->setPlainText(QStringLiteral("alpha beta"));
     selectWord(doc, 7);
-    const QList<int> sizes = C::fontSizes();
+    const QList<int> sizes = DemoFormatCommands::fontSizes();
     const int index = sizes.indexOf(18);
     QVERIFY(index > 0);
     action(C::FormatSizeFirst + index)->trigger();
@@ -355,7 +360,7 @@ void tst_Demo::fontSizeRangeHandlerGetsTheId()
 void tst_Demo::symbolRangeInsertsTheRightCharacter()
 {
     DemoDocument* doc = document();
-    const auto symbols = C::symbols();
+    const auto symbols = DemoInsertCommands::symbols();
     for (int i = 0; i < symbols.size(); ++i)
         action(C::InsertSymbolFirst + i)->trigger();
     QString expected;
@@ -368,9 +373,9 @@ void tst_Demo::recentFilesRangeOpensTheEntry()
 {
     const QString first = writeFile(QStringLiteral("first.txt"), QStringLiteral("first file"));
     const QString second = writeFile(QStringLiteral("second.txt"), QStringLiteral("second file"));
-    QVERIFY(m_window->commands()->openFile(first));
-    QVERIFY(m_window->commands()->openFile(second));
-    QCOMPARE(m_window->commands()->recentFiles(), QStringList({second, first}));
+    QVERIFY(m_window->commands()->files()->openFile(first));
+    QVERIFY(m_window->commands()->files()->openFile(second));
+    QCOMPARE(m_window->commands()->files()->recentFiles(), QStringList({second, first}));
     wake();
     QCOMPARE(action(C::FileRecentFirst)->text(), QStringLiteral("&1 second.txt"));
     QCOMPARE(action(C::FileRecentFirst + 1)->text(), QStringLiteral("&2 first.txt"));
@@ -386,17 +391,17 @@ void tst_Demo::recentFilesRangeOpensTheEntry()
     action(C::FileRecentFirst + 1)->trigger();
     QCOMPARE(document()->filePath(), first);
     QCOMPARE(document()->toPlainText(), QStringLiteral("first file"));
-    QCOMPARE(m_window->commands()->recentFiles().first(), first);
+    QCOMPARE(m_window->commands()->files()->recentFiles().first(), first);
 
     // A vanished file is dropped from the list.
     QFile::remove(second);
     wake();
     action(C::FileRecentFirst + 1)->trigger();
-    QCOMPARE(m_window->commands()->recentFiles(), QStringList({first}));
+    QCOMPARE(m_window->commands()->files()->recentFiles(), QStringList({first}));
 
     action(C::FileClearRecent)->trigger();
     wake();
-    QVERIFY(m_window->commands()->recentFiles().isEmpty());
+    QVERIFY(m_window->commands()->files()->recentFiles().isEmpty());
     QVERIFY(!action(C::FileClearRecent)->isEnabled());
 }
 
@@ -555,11 +560,11 @@ void tst_Demo::saveAndReloadRoundTrip()
     DemoDocument* doc = document();
     doc->setHtml(QStringLiteral("<p>some <b>bold</b> text</p>"));
     const QString path = m_dir->filePath(QStringLiteral("round.html"));
-    QVERIFY(m_window->commands()->saveAs(doc, path));
+    QVERIFY(m_window->commands()->files()->saveAs(doc, path));
     QVERIFY(!doc->isModified());
     QCOMPARE(doc->filePath(), path);
     QCOMPARE(doc->title(), QStringLiteral("round.html"));
-    QCOMPARE(m_window->commands()->recentFiles().first(), path);
+    QCOMPARE(m_window->commands()->files()->recentFiles().first(), path);
     wake();
     QVERIFY(!action(C::FileRevert)->isEnabled());
 
@@ -602,7 +607,7 @@ void tst_Demo::settingsAreWrittenOnClose()
 {
     const QString settingsFile = m_dir->filePath(QStringLiteral("settings.dat"));
     const QString file = writeFile(QStringLiteral("notes.txt"), QStringLiteral("notes"));
-    QVERIFY(m_window->commands()->openFile(file));
+    QVERIFY(m_window->commands()->files()->openFile(file));
     document()->setZoom(150);
     action(C::ViewToolBarFormat)->trigger();
     m_window->show();
@@ -617,9 +622,9 @@ void tst_Demo::settingsAreWrittenOnClose()
 
     // A new window picks the values up.
     m_window = std::make_unique<DemoWindow>(settingsFile);
-    QCOMPARE(m_window->commands()->recentFiles(), QStringList({file}));
+    QCOMPARE(m_window->commands()->files()->recentFiles(), QStringList({file}));
     QVERIFY(!m_window->formatToolBar()->isHidden());
-    QCOMPARE(m_window->commands()->newDocument()->zoom(), 150);
+    QCOMPARE(m_window->commands()->files()->newDocument()->zoom(), 150);
 }
 
 void tst_Demo::nothingIsWrittenWithoutClose()

@@ -1,7 +1,11 @@
+#include "DemoClassicMenuBar.h"
 #include "DemoCommands.h"
 #include "DemoDocks.h"
-#include "DemoShell.h"
+#include "DemoDocumentArea.h"
+#include "DemoFiles.h"
+#include "DemoMenus.h"
 #include "DemoSettings.h"
+#include "DemoShellOptions.h"
 #include "DemoStyles.h"
 #include "DemoWindow.h"
 
@@ -46,7 +50,6 @@ private slots:
     void initialStylePrecedence();
     void docksAreListedInTheirMenu();
     void classicMenuBarCarriesMenusAndCornerActions();
-    void windowActionsFollowDocuments();
     void tabTextStaysDarkAcrossStyles();
     void demoWindowUsesTheShell();
     void demoWindowRemembersTheChosenStyle();
@@ -199,37 +202,15 @@ void tst_DemoShell::docksAreListedInTheirMenu()
 void tst_DemoShell::classicMenuBarCarriesMenusAndCornerActions()
 {
     QMainWindow window;
-    auto* area = new ui::MdiArea;
-    window.setCentralWidget(area);
+    window.setCentralWidget(new ui::MdiArea);
     QMenu file(QStringLiteral("File"));
     QMenu view(QStringLiteral("View"));
-    const demo::WindowActions actions = demo::createWindowActions(area, &window);
-    QAction help(demo::helpIcon(), QStringLiteral("Help"), nullptr);
-    ui::MenuBar* bar = demo::installClassicMenuBar(&window, {&file, &view}, actions.corner() << &help);
+    QAction next(QStringLiteral("Next"), nullptr);
+    QAction help(QStringLiteral("Help"), nullptr);
+    ui::MenuBar* bar = demo::installClassicMenuBar(&window, {&file, &view}, {&next, &help});
     QCOMPARE(window.menuWidget(), bar);
     QCOMPARE(bar->findChild<QMenuBar*>()->actions(), (QList<QAction*>{file.menuAction(), view.menuAction()}));
-    QCOMPARE(bar->findChild<QToolBar*>()->actions(), actions.corner() << &help);
-    for (QAction* action : actions.corner())
-        QVERIFY(!action->icon().isNull());
-}
-
-void tst_DemoShell::windowActionsFollowDocuments()
-{
-    QMainWindow window;
-    auto* area = new ui::MdiArea;
-    window.setCentralWidget(area);
-    const demo::WindowActions actions = demo::createWindowActions(area, &window);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QVERIFY(!actions.closeActive->isEnabled());
-    for (int i = 0; i < 2; ++i)
-        area->addSubWindow(new QTextEdit)->show();
-    QTRY_VERIFY(actions.closeActive->isEnabled());
-    QVERIFY(actions.next->isEnabled());
-    actions.closeAll->trigger();
-    QTRY_VERIFY(area->subWindowList().isEmpty());
-    QTRY_VERIFY(!actions.closeActive->isEnabled());
-    QCOMPARE(area->viewMode(), QMdiArea::TabbedView);
+    QCOMPARE(bar->findChild<QToolBar*>()->actions(), (QList<QAction*>{&next, &help}));
 }
 
 void tst_DemoShell::tabTextStaysDarkAcrossStyles()
@@ -259,7 +240,7 @@ void tst_DemoShell::demoWindowUsesTheShell()
 
     // Several documents in the tabbed area; the newest is current once shown.
     for (int i = 0; i < 3; ++i)
-        window.commands()->newDocument();
+        window.commands()->files()->newDocument();
     window.resize(1000, 700);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -275,7 +256,7 @@ void tst_DemoShell::demoWindowUsesTheShell()
     QCOMPARE(window.activeDocument(), window.documents().first());
 
     // The View menu holds the panels and the styles.
-    QMenu* view = window.commands()->categoryMenu(DemoCommands::View);
+    QMenu* view = window.commands()->menus().category(DemoMenus::View);
     QVERIFY(view->actions().contains(window.panelsMenu()->menuAction()));
     QVERIFY(view->actions().contains(window.styleMenu()->menuAction()));
     QVERIFY(window.panelsMenu()->menuAction()->property("isDynamic").toBool());

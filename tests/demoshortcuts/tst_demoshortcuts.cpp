@@ -1,5 +1,7 @@
 #include "DemoCommands.h"
+#include "DemoMenus.h"
 #include "DemoSettings.h"
+#include "DemoShortcutSettings.h"
 #include "DemoShortcutsDialog.h"
 #include "DemoWindow.h"
 
@@ -199,7 +201,7 @@ void TestDemoShortcuts::demoToolsCommandEditsAndKeeps()
         DemoWindow window(settingsFile);
         QAction* command = window.commands()->action(DemoCommands::ToolsKeyboardShortcuts);
         QVERIFY(command);
-        QVERIFY(window.commands()->categoryMenu(DemoCommands::Tools)->actions().contains(command));
+        QVERIFY(window.commands()->menus().category(DemoMenus::Tools)->actions().contains(command));
         QAction* wordCount = window.commands()->action(DemoCommands::ToolsWordCount);
         QVERIFY(!wordCount->shortcuts().contains(chosen));
 

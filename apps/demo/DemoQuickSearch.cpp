@@ -1,18 +1,14 @@
-#include "DemoSearch.h"
+#include "DemoQuickSearch.h"
 
 #include <tessaro/QuickSearch.h>
 
 #include <QAction>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QEvent>
-#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPixmap>
 #include <QPointer>
-#include <QScreen>
 #include <QTimer>
 #include <QToolBar>
 
@@ -89,16 +85,6 @@ void removeOldPlacement(QMainWindow* window, ui::QuickSearchWidget* box)
     }
 }
 
-// Waits for the window system and the event loop, so that the picture shows
-// what a user would see.
-void settle(int ms)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-}
-
 } // namespace
 
 ui::QuickSearchWidget* createQuickSearch(QMainWindow* window, const QList<QMenu*>& menus)
@@ -136,40 +122,6 @@ void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box)
     toolBar->addWidget(box);
     window->addToolBar(Qt::TopToolBarArea, toolBar);
     box->show();
-}
-
-bool saveQuickSearchScreenshot(QMainWindow* window, ui::QuickSearchWidget* box, const QString& query,
-                               const QString& fileName)
-{
-    // The popup opens above the box: leave room for it above the window.
-    QScreen* screen = window->screen();
-    const QRect available = screen->availableGeometry();
-    const int room = qMin(360, available.height() / 3);
-    window->setWindowState(Qt::WindowNoState);
-    window->setGeometry(available.adjusted(40, room, -40, -40));
-    window->show();
-    window->activateWindow();
-    settle(600);
-
-    box->setFocus(Qt::ShortcutFocusReason);
-    box->clear();
-    for (const QChar key : query) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(key));
-        QCoreApplication::sendEvent(box, &press);
-        QKeyEvent release(QEvent::KeyRelease, 0, Qt::NoModifier, QString(key));
-        QCoreApplication::sendEvent(box, &release);
-        settle(30);
-    }
-    settle(400);
-
-    QPixmap picture = screen->grabWindow(0);
-    QRect area = window->frameGeometry();
-    if (auto* popup = box->findChild<QMenu*>(); popup && popup->isVisible())
-        area = area.united(popup->frameGeometry());
-    area = area.adjusted(-8, -8, 8, 8).intersected(screen->geometry()).translated(-screen->geometry().topLeft());
-    if (!area.isEmpty())
-        picture = picture.copy(area);
-    return picture.save(fileName, "PNG");
 }
 
 } // namespace demo

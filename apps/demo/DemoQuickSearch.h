@@ -21,9 +21,4 @@ ui::QuickSearchWidget* createQuickSearch(QMainWindow* window, const QList<QMenu*
 /// tool bar of its own. Call it again after the menu widget changes.
 void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box);
 
-/// Shows @p window, types @p query into @p box as a user would, and saves the
-/// whole screen (the result popup is a window of its own) to @p fileName.
-bool saveQuickSearchScreenshot(QMainWindow* window, ui::QuickSearchWidget* box, const QString& query,
-                               const QString& fileName);
-
 } // namespace demo

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+
+class DemoWindow;
+class QTimer;
+
+/// Tools › Auto Save: while on, every 30 seconds the documents that have a
+/// file and unsaved changes are saved to it. Starts in the state the settings
+/// kept.
+class DemoAutoSave : public QObject
+{
+    Q_OBJECT
+
+public:
+    DemoAutoSave(DemoWindow* window, QObject* parent);
+
+    bool isOn() const;
+    void setOn(bool on);
+
+private:
+    void saveNow();
+
+    DemoWindow* m_window;
+    QTimer* m_timer;
+};

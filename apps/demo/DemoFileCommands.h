@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QCoreApplication>
+
+class DemoCommands;
+
+/// The File commands: new, open, the recent files range, save, save as, save
+/// all, revert, export, properties, close, close all and exit.
+class DemoFileCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(DemoFileCommands)
+
+public:
+    static void registerCommands(DemoCommands& commands);
+};

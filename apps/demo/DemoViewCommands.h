@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QList>
+
+class DemoCommands;
+
+/// The View commands: zoom (in, out, actual size and the zoom levels range),
+/// word wrap, the ruler, read only, the two tool bars, the status bar, full
+/// screen and stepping through the documents.
+class DemoViewCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(DemoViewCommands)
+
+public:
+    static void registerCommands(DemoCommands& commands);
+
+    /// The zoom levels of the range ViewZoomFirst..ViewZoomLast, in id order.
+    static QList<int> zoomLevels();
+};
