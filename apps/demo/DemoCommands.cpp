@@ -47,10 +47,10 @@ DemoDocument* DemoCommands::document() const
     return m_window->activeDocument();
 }
 
-QAction* DemoCommands::add(int id, DemoIcons::Glyph glyph, const QString& text, const QKeySequence& shortcut,
+QAction* DemoCommands::add(int id, IconPainter::Glyph glyph, const QString& text, const QKeySequence& shortcut,
                            const QString& tip, bool persistent)
 {
-    const QIcon icon = DemoIcons::icon(glyph);
+    const QIcon icon = IconPainter::icon(glyph);
     QAction* action = persistent ? m_registry->addPersistentCommand(icon, text, id)
                                  : m_registry->addCommand(icon, text, id);
     if (!shortcut.isEmpty())

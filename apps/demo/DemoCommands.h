@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DemoIcons.h"
+#include "IconPainter.h"
 
 #include <QKeySequence>
 #include <QObject>
@@ -147,7 +147,7 @@ public:
     // Helpers the categories register their commands with.
 
     /// Registers command \a id with its icon, text, shortcut and status tip.
-    QAction* add(int id, DemoIcons::Glyph glyph, const QString& text, const QKeySequence& shortcut = QKeySequence(),
+    QAction* add(int id, IconPainter::Glyph glyph, const QString& text, const QKeySequence& shortcut = QKeySequence(),
                  const QString& tip = QString(), bool persistent = false);
     /// Connects a command that needs an open document; it is disabled without
     /// one or when \a enabled says no.

@@ -1,7 +1,7 @@
 #include "DemoDocument.h"
 
-#include "DemoIcons.h"
 #include "DemoRuler.h"
+#include "IconPainter.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -327,7 +327,7 @@ void DemoDocument::insertImagePlaceholder()
         p.setRenderHint(QPainter::Antialiasing);
         p.setPen(QPen(QColor(0x9a, 0xa5, 0xb4), 1, Qt::DashLine));
         p.drawRect(QRectF(0.5, 0.5, 199, 119));
-        p.drawPixmap(68, 28, DemoIcons::pixmap(DemoIcons::Image, 64));
+        p.drawImage(68, 28, IconPainter::image(IconPainter::Image, 64));
     }
     const QUrl url(QStringLiteral("demo-image://%1").arg(++m_imageCount));
     document()->addResource(QTextDocument::ImageResource, url, image);

@@ -18,7 +18,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 using T = DemoEditCommands;
 
 void addEditCommands(DemoCommands& c)

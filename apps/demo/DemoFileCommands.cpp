@@ -19,7 +19,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 
 void addFileCommands(DemoCommands& c)
 {

@@ -13,7 +13,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 using T = DemoFormatCommands;
 
 void addFormatCommands(DemoCommands& c)
@@ -53,7 +53,7 @@ void addFormatCommands(DemoCommands& c)
               T::tr("Set the font size to %1 points").arg(sizes.at(i)));
     const QList<QPair<QString, QColor>> colors = T::textColors();
     for (int i = 0; i < colors.size(); ++i) {
-        QAction* action = c.registry()->addCommand(DemoIcons::icon(G::TextColor, colors.at(i).second),
+        QAction* action = c.registry()->addCommand(IconPainter::icon(G::TextColor, colors.at(i).second),
                                                     colors.at(i).first, C::FormatColorFirst + i);
         action->setStatusTip(T::tr("Colour the text"));
     }

@@ -17,7 +17,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 using T = DemoHelpCommands;
 
 // One table row per visible command of the menu, submenus walked into.

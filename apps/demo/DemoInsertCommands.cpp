@@ -13,7 +13,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 using T = DemoInsertCommands;
 
 void addInsertCommands(DemoCommands& c)

@@ -57,12 +57,12 @@ void DemoMenus::buildFile()
     QMenu* file = m_categories[File];
     addToMenu(file, {C::FileNew, C::FileOpen});
     QMenu* recent = newMenu(tr("Recent &Files"), file);
-    recent->setIcon(DemoIcons::icon(DemoIcons::Recent));
+    recent->setIcon(IconPainter::icon(IconPainter::Recent));
     addRange(recent, C::FileRecentFirst, C::FileRecentLast);
     addToMenu(recent, {0, C::FileClearRecent});
     addToMenu(file, {0, C::FileSave, C::FileSaveAs, C::FileSaveAll, C::FileRevert, 0});
     QMenu* exportMenu = newMenu(tr("&Export"), file);
-    exportMenu->setIcon(DemoIcons::icon(DemoIcons::ExportHtml));
+    exportMenu->setIcon(IconPainter::icon(IconPainter::ExportHtml));
     addToMenu(exportMenu, {C::FileExportHtml, C::FileExportText});
     addToMenu(file, {C::FileProperties, 0, C::FileClose, C::FileCloseAll, 0, C::FileExit});
 }
@@ -81,7 +81,7 @@ void DemoMenus::buildView()
 {
     QMenu* view = m_categories[View];
     QMenu* zoom = newMenu(tr("&Zoom"), view);
-    zoom->setIcon(DemoIcons::icon(DemoIcons::Zoom));
+    zoom->setIcon(IconPainter::icon(IconPainter::Zoom));
     addToMenu(zoom, {C::ViewZoomIn, C::ViewZoomOut, C::ViewZoomReset, 0});
     addRange(zoom, C::ViewZoomFirst, C::ViewZoomLast);
     addToMenu(view, {0, C::ViewWordWrap, C::ViewRuler, C::ViewReadOnly, 0});
@@ -96,7 +96,7 @@ void DemoMenus::buildInsert()
     addToMenu(insert, {C::InsertDate, C::InsertTime, 0, C::InsertTable, C::InsertImage, C::InsertHorizontalLine, 0,
                        C::InsertBulletList, C::InsertNumberedList, C::InsertLink, 0});
     QMenu* symbol = newMenu(tr("&Symbol"), insert);
-    symbol->setIcon(DemoIcons::icon(DemoIcons::Symbol));
+    symbol->setIcon(IconPainter::icon(IconPainter::Symbol));
     addRange(symbol, C::InsertSymbolFirst, C::InsertSymbolLast);
 }
 
@@ -106,15 +106,15 @@ void DemoMenus::buildFormat()
     addToMenu(format, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
                        C::FormatSubscript, C::FormatHighlight, 0});
     QMenu* size = newMenu(tr("Font Si&ze"), format);
-    size->setIcon(DemoIcons::icon(DemoIcons::FontSize));
+    size->setIcon(IconPainter::icon(IconPainter::FontSize));
     addToMenu(size, {C::FormatGrowFont, C::FormatShrinkFont, 0});
     addRange(size, C::FormatSizeFirst, C::FormatSizeLast);
     QMenu* color = newMenu(tr("Text &Colour"), format);
-    color->setIcon(DemoIcons::icon(DemoIcons::TextColor));
+    color->setIcon(IconPainter::icon(IconPainter::TextColor));
     addRange(color, C::FormatColorFirst, C::FormatColorLast);
     addToMenu(format, {0});
     QMenu* paragraph = newMenu(tr("&Paragraph"), format);
-    paragraph->setIcon(DemoIcons::icon(DemoIcons::AlignLeft));
+    paragraph->setIcon(IconPainter::icon(IconPainter::AlignLeft));
     addToMenu(paragraph, {C::FormatAlignLeft, C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify, 0,
                           C::FormatIndent, C::FormatOutdent});
     addToMenu(format, {0, C::FormatClear});

@@ -2,9 +2,9 @@
 
 #include "DemoCommands.h"
 #include "DemoFontSizeAction.h"
-#include "DemoIcons.h"
 #include "DemoMenus.h"
 #include "DemoShortcutsDialog.h"
+#include "IconPainter.h"
 
 #include <tessaro/RibbonBar.h>
 #include <tessaro/RibbonControls.h>
@@ -125,7 +125,7 @@ void RibbonBuilder::addSystemMenu(QWidget* window)
                                C::FileCloseAll}));
     m_ribbon->setSystemButtonAction(file);
 
-    QAction* options = ribbonAction(QStringLiteral("options"), DemoIcons::icon(DemoIcons::ToolBar), tr("Options"));
+    QAction* options = ribbonAction(QStringLiteral("options"), IconPainter::icon(IconPainter::ToolBar), tr("Options"));
     DemoCommands* commands = m_commands;
     QObject::connect(options, &QAction::triggered, window, [commands, window] {
         DemoShortcutsDialog dialog(commands->menus().root(), window);
@@ -156,7 +156,7 @@ void RibbonBuilder::addHomePage()
                 {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
                  C::FormatSubscript, C::FormatHighlight, C::FormatGrowFont, C::FormatShrinkFont, C::FormatClear},
                 Qt::ToolButtonIconOnly);
-    addGroupCommand(font, QStringLiteral("textColor"), DemoIcons::icon(DemoIcons::TextColor), tr("Text Color"),
+    addGroupCommand(font, QStringLiteral("textColor"), IconPainter::icon(IconPainter::TextColor), tr("Text Color"),
                     rangeMenu(C::FormatColorFirst, C::FormatColorLast), Qt::ToolButtonIconOnly, ui::Dynamic);
     auto* separator = new QAction(m_ribbon);
     separator->setSeparator(true);
@@ -183,7 +183,7 @@ void RibbonBuilder::addInsertPage()
     // Symbol only opens its menu.
     Qtitan::RibbonGroup* text = insert->addGroup(tr("Text"));
     addCommands(text, {C::InsertDate, C::InsertTime, C::InsertLink}, Qt::ToolButtonTextBesideIcon);
-    addGroupCommand(text, QStringLiteral("symbol"), DemoIcons::icon(DemoIcons::Symbol), tr("Symbol"),
+    addGroupCommand(text, QStringLiteral("symbol"), IconPainter::icon(IconPainter::Symbol), tr("Symbol"),
                     rangeMenu(C::InsertSymbolFirst, C::InsertSymbolLast), Qt::ToolButtonTextUnderIcon, ui::Simple);
 }
 
@@ -191,8 +191,8 @@ void RibbonBuilder::addViewPage(QMenu* panelsMenu, QMenu* styleMenu)
 {
     Qtitan::RibbonPage* view = m_ribbon->addPage(tr("View"));
     Qtitan::RibbonGroup* window = view->addGroup(tr("Window"));
-    addMenuButton(window, panelsMenu, DemoIcons::icon(DemoIcons::ToolBar), tr("Panels"), QStringLiteral("panels"));
-    addMenuButton(window, styleMenu, DemoIcons::icon(DemoIcons::TextColor, QColor(43, 87, 154)), tr("Style"),
+    addMenuButton(window, panelsMenu, IconPainter::icon(IconPainter::ToolBar), tr("Panels"), QStringLiteral("panels"));
+    addMenuButton(window, styleMenu, IconPainter::icon(IconPainter::TextColor, QColor(43, 87, 154)), tr("Style"),
                   QStringLiteral("style"));
     Qtitan::RibbonGroup* show = view->addGroup(tr("Show"));
     addCommands(show, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar}, Qt::ToolButtonTextBesideIcon);

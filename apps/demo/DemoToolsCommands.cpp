@@ -12,7 +12,7 @@
 namespace {
 
 using C = DemoCommands;
-using G = DemoIcons;
+using G = IconPainter;
 using T = DemoToolsCommands;
 
 void addToolsCommands(DemoCommands& c)

@@ -7,7 +7,6 @@
 #include "DemoDocumentArea.h"
 #include "DemoFiles.h"
 #include "DemoFindBar.h"
-#include "DemoIcons.h"
 #include "DemoMenus.h"
 #include "DemoQuickSearch.h"
 #include "DemoRibbon.h"
@@ -15,6 +14,7 @@
 #include "DemoSettings.h"
 #include "DemoStyles.h"
 #include "DemoWelcome.h"
+#include "IconPainter.h"
 
 #include <tessaro/CommandsRegistry.h>
 #include <tessaro/DockListMenu.h>
@@ -40,7 +40,7 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
 {
     applyInitialStyle(shell);
     setObjectName(QStringLiteral("demoWindow"));
-    setWindowIcon(DemoIcons::icon(DemoIcons::New));
+    setWindowIcon(IconPainter::icon(IconPainter::Logo));
     createDocumentArea();
     m_commands = new DemoCommands(this);
     // Shortcuts work whatever shows the actions (menus, tool bars or a ribbon).
@@ -231,7 +231,7 @@ QMdiSubWindow* subWindowOf(DemoDocument* document)
 void DemoWindow::addDocument(DemoDocument* document)
 {
     QMdiSubWindow* window = m_area->addSubWindow(document);
-    window->setWindowIcon(DemoIcons::icon(DemoIcons::New));
+    window->setWindowIcon(IconPainter::icon(IconPainter::New));
     window->installEventFilter(new CloseThroughCommand(m_commands->files(), document, window));
     const auto retitle = [this, document, window] {
         window->setWindowTitle(document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));

@@ -6,7 +6,6 @@
 #include "DemoViewCommands.h"
 #include "DemoDocument.h"
 #include "DemoFindBar.h"
-#include "DemoIcons.h"
 #include "DemoOptions.h"
 #include "DemoSettings.h"
 #include "DemoWindow.h"
@@ -42,7 +41,6 @@ private slots:
 
     void commandSetIsComplete();
     void everyCommandIsInTheMenuTree();
-    void iconsAreDrawn();
     void cutAndCopyFollowTheSelection();
     void boldFollowsTheCursorFormat();
     void boldRunsOnTheSelection();
@@ -173,21 +171,6 @@ void tst_Demo::everyCommandIsInTheMenuTree()
     for (QAction* a : menuBar->findChild<QMenuBar*>()->actions())
         barMenus << a->menu();
     QCOMPARE(barMenus, classicWindow.commands()->menus().categories());
-}
-
-void tst_Demo::iconsAreDrawn()
-{
-    for (int g = 0; g < DemoIcons::GlyphCount; ++g) {
-        for (int size : {16, 32}) {
-            const QImage image = DemoIcons::pixmap(DemoIcons::Glyph(g), size).toImage();
-            QCOMPARE(image.size(), QSize(size, size));
-            int opaque = 0;
-            for (int y = 0; y < size; ++y)
-                for (int x = 0; x < size; ++x)
-                    opaque += qAlpha(image.pixel(x, y)) > 128;
-            QVERIFY2(opaque > size * size / 20, qPrintable(QStringLiteral("glyph %1 at %2").arg(g).arg(size)));
-        }
-    }
 }
 
 void tst_Demo::cutAndCopyFollowTheSelection()
