@@ -18,7 +18,8 @@ DemoOptions::DemoOptions()
                  QStringLiteral("Use <file> for the settings instead of the user's config folder."),
                  QStringLiteral("file"))
     , m_resetLayout(QStringLiteral("reset-layout"),
-                    QStringLiteral("Forget the saved ribbon layout and quick access bar; start with the ribbon as built."))
+                    QStringLiteral("Forget what was arranged in earlier runs (shortcuts, tool bars, panels, style, ribbon, quick "
+                                   "access bar, window size) and start as built."))
 {
     m_parser.setApplicationDescription(
         QStringLiteral("Sample host of the Tessaro library: a small rich-text editor whose commands, menus and "

@@ -24,7 +24,7 @@ public:
     QString searchText;
     /// Settings file to use instead of the one in the user's config folder.
     QString settingsFile;
-    /// --reset-layout: forget the saved ribbon layout and quick access bar.
+    /// --reset-layout: forget what the user arranged in earlier runs.
     bool resetLayout = false;
     /// Documents to open at start.
     QStringList files;

@@ -3,7 +3,6 @@
 #include "DemoCommands.h"
 #include "DemoFontSizeAction.h"
 #include "DemoMenus.h"
-#include "DemoShortcutsDialog.h"
 #include "IconPainter.h"
 
 #include <tessaro/RibbonBar.h>
@@ -38,7 +37,7 @@ public:
     {
     }
 
-    void addSystemMenu(QWidget* window);
+    void addSystemMenu();
     void addHomePage();
     void addInsertPage();
     void addViewPage(QMenu* panelsMenu, QMenu* styleMenu);
@@ -116,7 +115,7 @@ void RibbonBuilder::addMenuButton(Qtitan::RibbonGroup* group, QMenu* menu, const
     group->addAction(action, Qt::ToolButtonTextUnderIcon, menu, QToolButton::InstantPopup);
 }
 
-void RibbonBuilder::addSystemMenu(QWidget* window)
+void RibbonBuilder::addSystemMenu()
 {
     QAction* file = ribbonAction(QStringLiteral("file"), QIcon(), tr("File"));
     file->setToolTip(tr("Create, open, save and export documents"));
@@ -125,13 +124,10 @@ void RibbonBuilder::addSystemMenu(QWidget* window)
                                C::FileCloseAll}));
     m_ribbon->setSystemButtonAction(file);
 
+    // Options opens the keyboard shortcuts window, whose edits are kept.
     QAction* options = ribbonAction(QStringLiteral("options"), IconPainter::icon(IconPainter::ToolBar), tr("Options"));
-    DemoCommands* commands = m_commands;
-    QObject::connect(options, &QAction::triggered, window, [commands, window] {
-        DemoShortcutsDialog dialog(commands->menus().root(), window);
-        if (dialog.exec() == QDialog::Accepted)
-            dialog.apply();
-    });
+    QAction* shortcuts = m_commands->action(C::ToolsKeyboardShortcuts);
+    QObject::connect(options, &QAction::triggered, shortcuts, &QAction::trigger);
     m_ribbon->addPopupBarAction(options);
     if (QAction* exit = m_commands->action(C::FileExit))
         m_ribbon->addPopupBarAction(exit);
@@ -222,12 +218,12 @@ void RibbonBuilder::addQuickAccessBar()
 
 } // namespace
 
-ui::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* styleMenu, QWidget* window)
+ui::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* styleMenu, QWidget* parent)
 {
-    auto* ribbon = new ui::RibbonBar(QStringLiteral("DemoRibbon"), window);
+    auto* ribbon = new ui::RibbonBar(QStringLiteral("DemoRibbon"), parent);
     ribbon->setObjectName(QStringLiteral("demoRibbon"));
     RibbonBuilder builder(ribbon, commands);
-    builder.addSystemMenu(window);
+    builder.addSystemMenu();
     builder.addHomePage();
     builder.addInsertPage();
     builder.addViewPage(panelsMenu, styleMenu);

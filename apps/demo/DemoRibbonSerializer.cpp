@@ -2,7 +2,6 @@
 
 #include "DemoCommands.h"
 #include "DemoSettings.h"
-#include "DemoWindow.h"
 
 #include <tessaro/RibbonBar.h>
 
@@ -66,29 +65,6 @@ void DemoRibbonSerializer::saveTo(DemoSettings& settings)
 {
     settings.setValue(layoutKey, save());
     settings.setValue(quickBarKey, saveQuickBar());
-}
-
-void DemoRibbonSerializer::reset(DemoSettings& settings)
-{
-    settings.setValue(layoutKey, QByteArray());
-    settings.setValue(quickBarKey, QByteArray());
-}
-
-void restoreRibbonLayout(DemoWindow& window, bool reset)
-{
-    auto* ribbon = qobject_cast<ui::RibbonBar*>(window.ribbonBar());
-    if (!ribbon)
-        return;
-    if (reset)
-        DemoRibbonSerializer::reset(window.settings());
-    else
-        DemoRibbonSerializer(ribbon, window.commands()).restoreFrom(window.settings());
-}
-
-void saveRibbonLayout(DemoWindow& window)
-{
-    if (auto* ribbon = qobject_cast<ui::RibbonBar*>(window.ribbonBar()))
-        DemoRibbonSerializer(ribbon, window.commands()).saveTo(window.settings());
 }
 
 } // namespace demo

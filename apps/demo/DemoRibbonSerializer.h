@@ -6,7 +6,6 @@
 
 class DemoCommands;
 class DemoSettings;
-class DemoWindow;
 
 namespace ui {
 class RibbonBar;
@@ -33,8 +32,6 @@ public:
     bool restoreFrom(const DemoSettings& settings);
     /// Writes the ribbon and its quick access bar to \a settings.
     void saveTo(DemoSettings& settings);
-    /// Drops the stored state: the next start shows the ribbon as built.
-    static void reset(DemoSettings& settings);
 
 protected:
     QString getActionID(QAction* action) override;
@@ -44,11 +41,5 @@ private:
     ui::RibbonBar* m_ribbon;
     DemoCommands* m_commands;
 };
-
-/// At start: restores the window's stored ribbon layout, or with \a reset
-/// drops it and keeps the ribbon as built. Nothing without a ribbon.
-void restoreRibbonLayout(DemoWindow& window, bool reset);
-/// On exit: stores the window's ribbon layout and quick access bar.
-void saveRibbonLayout(DemoWindow& window);
 
 } // namespace demo

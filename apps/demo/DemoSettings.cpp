@@ -6,8 +6,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-const QString DemoSettings::geometryKey = QStringLiteral("window/geometry");
-const QString DemoSettings::windowStateKey = QStringLiteral("window/state");
 const QString DemoSettings::recentFilesKey = QStringLiteral("file/recent");
 const QString DemoSettings::zoomKey = QStringLiteral("view/zoom");
 const QString DemoSettings::wordWrapKey = QStringLiteral("view/wordWrap");
@@ -34,12 +32,20 @@ QString DemoSettings::defaultFileName()
 
 QVariant DemoSettings::value(const QString& key, const QVariant& defaultValue) const
 {
-    return m_storage->value(key, defaultValue);
+    const QVariant value = m_storage->value(key);
+    return value.isValid() ? value : defaultValue;
 }
 
 void DemoSettings::setValue(const QString& key, const QVariant& value)
 {
     m_storage->setValue(key, value);
+}
+
+void DemoSettings::remove(const QString& key)
+{
+    // The store keeps every key it was given; an invalid value reads as none.
+    if (m_storage->value(key).isValid())
+        m_storage->setValue(key, QVariant());
 }
 
 QStringList DemoSettings::recentFiles() const

@@ -26,8 +26,11 @@ public:
     static QString defaultFileName();
 
     QString fileName() const { return m_fileName; }
+    /// The value kept under \a key, or \a defaultValue when there is none.
     QVariant value(const QString& key, const QVariant& defaultValue = QVariant()) const;
     void setValue(const QString& key, const QVariant& value);
+    /// Forgets the value under \a key: value() gives the default again.
+    void remove(const QString& key);
     KeyValueStorage& storage() { return *m_storage; }
 
     /// Most recently used first, at most maxRecentFiles entries.
@@ -38,8 +41,6 @@ public:
     static constexpr int maxRecentFiles = 10;
 
     // Keys written by the demo window and its commands.
-    static const QString geometryKey;
-    static const QString windowStateKey;
     static const QString recentFilesKey;
     static const QString zoomKey;
     static const QString wordWrapKey;

@@ -5,13 +5,15 @@
 
 namespace demo {
 
-/// The options that choose the window's shell, read before QApplication
-/// exists (it would take --style for the name of a Qt style).
+/// How the window starts: its shell and style, read before QApplication exists
+/// (it would take --style for the name of a Qt style), and whether it forgets
+/// what the user arranged.
 struct ShellOptions
 {
     bool classic = false;   ///< --classic: a menu bar instead of the ribbon
     bool hasStyle = false;  ///< --style VALUE was given
     int style = -1;         ///< its value, a ui::MainWindow::Style
+    bool resetLayout = false; ///< --reset-layout: start as built (read with the other options, in main)
     QString error;          ///< set when an option could not be read
 };
 

@@ -10,10 +10,10 @@
 #include "DemoMenus.h"
 #include "DemoQuickSearch.h"
 #include "DemoRibbon.h"
-#include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
 #include "DemoStyles.h"
 #include "DemoWelcome.h"
+#include "DemoWindowLayout.h"
 #include "IconPainter.h"
 
 #include <tessaro/CommandsRegistry.h>
@@ -38,6 +38,8 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
     , m_settings(std::make_unique<DemoSettings>(settingsFile))
     , m_classic(shell.classic)
 {
+    if (shell.resetLayout)
+        DemoWindowLayout::reset(*m_settings);
     applyInitialStyle(shell);
     setObjectName(QStringLiteral("demoWindow"));
     setWindowIcon(IconPainter::icon(IconPainter::Logo));
@@ -49,16 +51,24 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
     demo::createQuickSearch(this, m_commands->menus().categories());
     createToolBars();
     createStatusBar();
-    restoreSettings();
+    DemoWindowLayout::restore(*this);
     updateTitle();
 }
 
 DemoWindow::~DemoWindow()
 {
-    // The documents go before the commands whose actions their menus show.
+    // What reports to this window goes while it is still a DemoWindow: past
+    // this body only a QWidget is left, and the document area would still
+    // announce the active document changing as its tabs go.
+    disconnect(m_area, nullptr, this, nullptr);
+    if (m_connectedDocument)
+        disconnect(m_connectedDocument, nullptr, this, nullptr);
     m_connectedDocument = nullptr;
+    // The documents go before the commands whose actions their menus show,
+    // and the ribbon (or menu bar) before those actions, which it shows too.
     for (DemoDocument* doc : documents())
         delete doc;
+    delete menuWidget();
 }
 
 void DemoWindow::createDocumentArea()
@@ -132,19 +142,9 @@ void DemoWindow::createStatusBar()
     statusBar()->showMessage(tr("Ready"));
 }
 
-void DemoWindow::restoreSettings()
-{
-    const QByteArray geometry = m_settings->value(DemoSettings::geometryKey).toByteArray();
-    if (geometry.isEmpty() || !restoreGeometry(geometry))
-        resize(1200, 800);
-    restoreState(m_settings->value(DemoSettings::windowStateKey).toByteArray());
-}
-
 void DemoWindow::saveSettings()
 {
-    demo::saveRibbonLayout(*this);
-    m_settings->setValue(DemoSettings::geometryKey, saveGeometry());
-    m_settings->setValue(DemoSettings::windowStateKey, saveState());
+    DemoWindowLayout::save(*this);
     if (DemoDocument* doc = activeDocument()) {
         m_settings->setValue(DemoSettings::zoomKey, doc->zoom());
         m_settings->setValue(DemoSettings::wordWrapKey, doc->wordWrap());

@@ -87,7 +87,6 @@ private:
     void createShell();
     void createToolBars();
     void createStatusBar();
-    void restoreSettings();
     void saveSettings();
     void onCurrentTabChanged();
     void updateTitle();

@@ -1,7 +1,6 @@
 #include "DemoCommands.h"
 #include "DemoFiles.h"
 #include "DemoOptions.h"
-#include "DemoRibbonSerializer.h"
 #include "DemoScreenshots.h"
 #include "DemoShellOptions.h"
 #include "DemoWindow.h"
@@ -15,7 +14,7 @@
 int main(int argc, char* argv[])
 {
     // Taken out before QApplication, which reads --style as a Qt style name.
-    const demo::ShellOptions shell = demo::takeShellOptions(argc, argv);
+    demo::ShellOptions shell = demo::takeShellOptions(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("tessaro-demo"));
     QApplication::setOrganizationName(QStringLiteral("Tessaro"));
@@ -39,8 +38,8 @@ int main(int argc, char* argv[])
         return 2;
     }
 
+    shell.resetLayout = options.resetLayout;
     DemoWindow window(options.settingsFile, nullptr, shell);
-    demo::restoreRibbonLayout(window, options.resetLayout);
     for (const QString& file : qAsConst(options.files))
         window.commands()->files()->openFile(file);
     if (window.documents().isEmpty())

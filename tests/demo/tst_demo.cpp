@@ -9,6 +9,7 @@
 #include "DemoOptions.h"
 #include "DemoSettings.h"
 #include "DemoWindow.h"
+#include "DemoWindowLayout.h"
 
 #include <tessaro/CommandsRegistry.h>
 #include <tessaro/MenuBar.h>
@@ -601,7 +602,7 @@ void tst_Demo::settingsAreWrittenOnClose()
     DemoSettings settings(settingsFile);
     QCOMPARE(settings.recentFiles(), QStringList({file}));
     QCOMPARE(settings.value(DemoSettings::zoomKey).toInt(), 150);
-    QVERIFY(!settings.value(DemoSettings::geometryKey).toByteArray().isEmpty());
+    QVERIFY(!settings.value(DemoWindowLayout::geometryKey).toByteArray().isEmpty());
 
     // A new window picks the values up.
     m_window = std::make_unique<DemoWindow>(settingsFile);

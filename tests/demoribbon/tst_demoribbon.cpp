@@ -2,6 +2,7 @@
 #include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
 #include "DemoWindow.h"
+#include "DemoWindowLayout.h"
 
 #include <tessaro/RibbonBar.h>
 #include <tessaro/RibbonControls.h>
@@ -91,12 +92,11 @@ void tst_DemoRibbon::layoutSurvivesRestart()
         ui::setActionButtonStyle(editing, editing->actions().first(), Qt::ToolButtonTextUnderIcon);
         ribbon->removeQuickAction(window.commands()->action(DemoCommands::FileNew));
         ribbon->page(0)->setTitle(QStringLiteral("Start"));
-        demo::saveRibbonLayout(window);
+        DemoWindowLayout::save(window);
         layout = window.settings().value(demo::DemoRibbonSerializer::layoutKey).toByteArray();
         QVERIFY(!layout.isEmpty());
     }
     DemoWindow window(settings);
-    demo::restoreRibbonLayout(window, false);
     ui::RibbonBar* ribbon = ribbonOf(window);
     QCOMPARE(ribbon->page(0)->title(), QStringLiteral("Start"));
     Qtitan::RibbonGroup* editing = group(ribbon, QObject::tr("Editing"));
@@ -128,15 +128,15 @@ void tst_DemoRibbon::resetLayoutDropsIt()
     {
         DemoWindow window(settings);
         ribbonOf(window)->page(0)->setTitle(QStringLiteral("Start"));
-        demo::saveRibbonLayout(window);
+        DemoWindowLayout::save(window);
     }
     {
-        DemoWindow window(settings);
-        demo::restoreRibbonLayout(window, true);
+        demo::ShellOptions reset;
+        reset.resetLayout = true;
+        DemoWindow window(settings, nullptr, reset);
         QCOMPARE(ribbonOf(window)->page(0)->title(), QObject::tr("Home"));
     }
     DemoWindow window(settings);
-    demo::restoreRibbonLayout(window, false);
     QCOMPARE(ribbonOf(window)->page(0)->title(), QObject::tr("Home"));
 }
 
