@@ -1,5 +1,7 @@
 #include "DemoOptions.h"
 
+#include "DemoTranslations.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -20,6 +22,10 @@ DemoOptions::DemoOptions()
     , m_resetLayout(QStringLiteral("reset-layout"),
                     QStringLiteral("Forget what was arranged in earlier runs (shortcuts, tool bars, panels, style, ribbon, quick "
                                    "access bar, window size) and start as built."))
+    , m_language(QStringLiteral("lang"),
+                 QStringLiteral("The language of the window: en (the default) or ru, which shows the library's "
+                                "original texts."),
+                 QStringLiteral("language"), QStringLiteral("en"))
 {
     m_parser.setApplicationDescription(
         QStringLiteral("Sample host of the Tessaro library: a small rich-text editor whose commands, menus and "
@@ -30,6 +36,7 @@ DemoOptions::DemoOptions()
     m_parser.addOption(m_search);
     m_parser.addOption(m_settings);
     m_parser.addOption(m_resetLayout);
+    m_parser.addOption(m_language);
     // Read by main() before QApplication; listed here for --help.
     m_parser.addOption(QCommandLineOption(QStringLiteral("classic"),
                                           QStringLiteral("Show a classic menu bar instead of the ribbon.")));
@@ -57,6 +64,12 @@ DemoOptions::Result DemoOptions::parse(const QStringList& arguments)
     settingsFile = m_parser.value(m_settings);
     resetLayout = m_parser.isSet(m_resetLayout);
     files = m_parser.positionalArguments();
+    language = m_parser.value(m_language);
+    if (!DemoTranslations::languages().contains(language)) {
+        m_output = QStringLiteral("Invalid --lang '%1': expected %2.\n")
+                       .arg(language, DemoTranslations::languages().join(QStringLiteral(" or ")));
+        return ExitError;
+    }
     if (m_parser.isSet(m_size)) {
         static const QRegularExpression pattern(QStringLiteral("^(\\d+)x(\\d+)$"));
         const QRegularExpressionMatch match = pattern.match(m_parser.value(m_size));

@@ -26,6 +26,8 @@ public:
     QString settingsFile;
     /// --reset-layout: forget what the user arranged in earlier runs.
     bool resetLayout = false;
+    /// --lang: the language of the window, "en" (the default) or "ru".
+    QString language = QStringLiteral("en");
     /// Documents to open at start.
     QStringList files;
 
@@ -39,5 +41,6 @@ private:
     QCommandLineOption m_search;
     QCommandLineOption m_settings;
     QCommandLineOption m_resetLayout;
+    QCommandLineOption m_language;
     QString m_output;
 };

@@ -3,6 +3,7 @@
 #include "DemoOptions.h"
 #include "DemoScreenshots.h"
 #include "DemoShellOptions.h"
+#include "DemoTranslations.h"
 #include "DemoWindow.h"
 #include <tessaro/QuickSearch.h>
 
@@ -37,6 +38,8 @@ int main(int argc, char* argv[])
         QTextStream(stderr) << shell.error << '\n';
         return 2;
     }
+    if (!DemoTranslations::install(options.language, &app))
+        QTextStream(stderr) << "The library's translation into \"" << options.language << "\" is missing.\n";
 
     shell.resetLayout = options.resetLayout;
     DemoWindow window(options.settingsFile, nullptr, shell);
