@@ -6,8 +6,11 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QEvent>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -25,6 +28,18 @@ void collect(QMenu* menu, DemoShortcutsDialog::Table& table)
     }
 }
 
+// The command icons are dark line drawings: a light selection keeps them
+// readable on the selected row, whatever the application style.
+void keepSelectedIconsLegible(QWidget* tree)
+{
+    QPalette palette = tree->palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::Highlight, QColor(0xcc, 0xe4, 0xf7));
+        palette.setColor(group, QPalette::HighlightedText, QColor(0x1a, 0x1a, 0x1a));
+    }
+    tree->setPalette(palette);
+}
+
 } // namespace
 
 DemoShortcutsDialog::DemoShortcutsDialog(QMenu* commands, QWidget* parent)
@@ -35,7 +50,7 @@ DemoShortcutsDialog::DemoShortcutsDialog(QMenu* commands, QWidget* parent)
 
     auto* layout = new QVBoxLayout(this);
     auto* hint = new QLabel(tr("Pick a command, press the new key combination in the box and add it with +. "
-                               "A combination that another command already uses is refused and that "
+                               "A combination that another command already uses is refused, and that "
                                "command is named below the box."),
                             this);
     hint->setWordWrap(true);
@@ -44,6 +59,7 @@ DemoShortcutsDialog::DemoShortcutsDialog(QMenu* commands, QWidget* parent)
     auto* splitter = new QSplitter(Qt::Horizontal, this);
     m_tree = new MenuTreeWidget(splitter, commands);
     m_tree->header()->hide();
+    keepSelectedIconsLegible(m_tree);
     auto* panel = new QWidget(splitter);
     m_page = new ui::QHotKeyPage(panel);
     splitter->addWidget(m_tree);
@@ -57,12 +73,44 @@ DemoShortcutsDialog::DemoShortcutsDialog(QMenu* commands, QWidget* parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
 
+    labelConflictOwner();
     m_page->setShortcuts(collectShortcuts(commands));
     connect(m_tree, &MenuTreeWidget::currentActionChanged, m_page, &ui::QHotKeyPage::setAction);
     resize(720, 480);
 }
 
 DemoShortcutsDialog::~DemoShortcutsDialog() = default;
+
+// The page shows the command that already has the typed combination in a
+// box of its own: a label in front of the box says what it is, and shows and
+// hides with it.
+void DemoShortcutsDialog::labelConflictOwner()
+{
+    auto* owner = m_page->findChild<QLineEdit*>(QStringLiteral("lineEdit"));
+    auto* grid = m_page->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
+    if (!owner || !grid)
+        return;
+    m_ownerLabel = new QLabel(tr("Already used by:"), m_page);
+    m_ownerLabel->setBuddy(owner);
+    m_ownerLabel->setVisible(!owner->isHidden());
+    grid->removeWidget(owner);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_ownerLabel);
+    row->addWidget(owner, 1);
+    grid->addLayout(row, 2, 0);
+    owner->installEventFilter(this);
+}
+
+bool DemoShortcutsDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_ownerLabel && watched == m_ownerLabel->buddy()) {
+        if (event->type() == QEvent::ShowToParent)
+            m_ownerLabel->show();
+        else if (event->type() == QEvent::HideToParent)
+            m_ownerLabel->hide();
+    }
+    return QDialog::eventFilter(watched, event);
+}
 
 DemoShortcutsDialog::Table DemoShortcutsDialog::editedShortcuts() const
 {

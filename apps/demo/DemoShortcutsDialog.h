@@ -6,6 +6,7 @@
 
 class DemoSettings;
 class MenuTreeWidget;
+class QLabel;
 class QAction;
 class QMenu;
 
@@ -26,6 +27,9 @@ public:
 
     MenuTreeWidget* tree() const { return m_tree; }
     ui::QHotKeyPage* page() const { return m_page; }
+    /// The label in front of the page's box that names the command owning the
+    /// typed combination; shown with that box.
+    QLabel* ownerLabel() const { return m_ownerLabel; }
     /// The table as the user has edited it so far.
     Table editedShortcuts() const;
 
@@ -43,7 +47,13 @@ public:
     /// \a commands. On OK the edits go to the actions and into \a settings.
     static DemoShortcutsDialog* editShortcuts(QMenu* commands, DemoSettings& settings, QWidget* parent);
 
+    /// Shows and hides the owner label together with the page's owner box.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void labelConflictOwner();
+
     MenuTreeWidget* m_tree;
     ui::QHotKeyPage* m_page;
+    QLabel* m_ownerLabel = nullptr;
 };

@@ -14,6 +14,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPushButton>
@@ -84,6 +86,8 @@ private slots:
     void commandKeys();
     void settingsRoundTrip();
     void demoToolsCommandEditsAndKeeps();
+    void selectedRowKeepsIconsLegible();
+    void conflictOwnerIsLabelled();
 };
 
 void TestDemoShortcuts::collectDepthFirstEachOnce()
@@ -228,6 +232,52 @@ void TestDemoShortcuts::demoToolsCommandEditsAndKeeps()
     DemoWindow window(settingsFile);
     QAction* wordCount = window.commands()->action(DemoCommands::ToolsWordCount);
     QVERIFY(wordCount->shortcuts().contains(chosen));
+}
+
+void TestDemoShortcuts::selectedRowKeepsIconsLegible()
+{
+    Commands c;
+    c.bold->setIcon(QIcon(QPixmap(16, 16)));
+    DemoShortcutsDialog dialog(&c.root);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    MenuTreeWidget* tree = dialog.tree();
+    const QModelIndex bold = findIndex(tree->model(), c.bold);
+    tree->setCurrentIndex(bold);
+    // The dark line icons stand on a light selection, with dark text beside them.
+    const QPalette palette = tree->palette();
+    QVERIFY(palette.color(QPalette::Active, QPalette::Highlight).lightness() > 200);
+    QVERIFY(palette.color(QPalette::Inactive, QPalette::Highlight).lightness() > 200);
+    QVERIFY(palette.color(QPalette::Active, QPalette::HighlightedText).lightness() < 60);
+    const QRect row = tree->visualRect(bold);
+    const QImage picture = tree->viewport()->grab().toImage();
+    QVERIFY(QColor(picture.pixel(row.right() - 2, row.center().y())).lightness() > 200);
+}
+
+void TestDemoShortcuts::conflictOwnerIsLabelled()
+{
+    Commands c;
+    DemoShortcutsDialog dialog(&c.root);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    dialog.page()->setAction(c.bold);
+    QLabel* label = dialog.ownerLabel();
+    QVERIFY(label);
+    auto* owner = dialog.page()->findChild<QLineEdit*>(QStringLiteral("lineEdit"));
+    QCOMPARE(label->buddy(), owner);
+    QVERIFY(!label->isVisible());
+    auto* edit = dialog.page()->findChild<QtKeySequenceEdit*>();
+    QTest::keyClick(edit, Qt::Key_S, Qt::ControlModifier);
+    QVERIFY(owner->isVisible());
+    QCOMPARE(owner->text(), QStringLiteral("Save"));
+    QVERIFY(label->isVisible());
+    QCOMPARE(label->text(), QStringLiteral("Already used by:"));
+    // Side by side, the label first.
+    QVERIFY(label->geometry().right() < owner->geometry().left());
+    QCOMPARE(label->geometry().center().y(), owner->geometry().center().y());
+    QTest::keyClick(edit, Qt::Key_B, Qt::ControlModifier | Qt::ShiftModifier);
+    QVERIFY(!owner->isVisible());
+    QVERIFY(!label->isVisible());
 }
 
 QTEST_MAIN(TestDemoShortcuts)
