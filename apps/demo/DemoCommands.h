@@ -111,6 +111,7 @@ public:
         FormatShrinkFont,
         FormatHighlight,
         FormatClear,
+        FormatFont,
         FormatSizeFirst = 550,
         FormatSizeLast = FormatSizeFirst + 9,
         FormatColorFirst = 570,

@@ -8,6 +8,7 @@
 
 #include <tessaro/CommandsRegistry.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QMimeData>
@@ -46,29 +47,28 @@ void addEditCommands(DemoCommands& c)
           T::tr("Make the selection lower case"));
 }
 
-// Undo and Redo say what they would undo or redo.
-void connectUndoRedo(DemoCommands& c)
+// Undo and Redo say in their tool tips what they would undo or redo; their
+// labels stay the same, so that buttons showing them keep their width.
+void connectUndoStep(DemoCommands& c, int id, bool redo)
 {
-    ui::CommandsRegistry* registry = c.registry();
-    registry->ConnectCommand(C::EditUndo, [&c] {
-        if (DemoDocument* doc = c.document())
-            doc->undoEdit();
+    c.registry()->ConnectCommand(id, [&c, redo] {
+        if (DemoDocument* doc = c.document()) {
+            if (redo)
+                doc->redoEdit();
+            else
+                doc->undoEdit();
+        }
     });
-    registry->ConnectCommandUI(C::EditUndo, [&c](ui::CommandState& state) {
+    QAction* action = c.action(id);
+    c.registry()->ConnectCommandUI(id, [&c, redo, action](ui::CommandState& state) {
         DemoDocument* doc = c.document();
-        const bool can = doc && doc->canUndo();
+        const bool can = doc && (redo ? doc->canRedo() : doc->canUndo());
         state.setEnabled(can);
-        state.setText(can ? T::tr("&Undo %1").arg(doc->undoLabel()) : T::tr("&Undo"));
-    });
-    registry->ConnectCommand(C::EditRedo, [&c] {
-        if (DemoDocument* doc = c.document())
-            doc->redoEdit();
-    });
-    registry->ConnectCommandUI(C::EditRedo, [&c](ui::CommandState& state) {
-        DemoDocument* doc = c.document();
-        const bool can = doc && doc->canRedo();
-        state.setEnabled(can);
-        state.setText(can ? T::tr("&Redo %1").arg(doc->redoLabel()) : T::tr("&Redo"));
+        const QString step = can ? (redo ? doc->redoLabel() : doc->undoLabel()) : QString();
+        const QString tip = redo ? (can ? T::tr("Redo %1").arg(step) : T::tr("Redo"))
+                                 : (can ? T::tr("Undo %1").arg(step) : T::tr("Undo"));
+        const QString shortcut = action->shortcut().toString(QKeySequence::NativeText);
+        action->setToolTip(shortcut.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, shortcut));
     });
 }
 
@@ -143,7 +143,8 @@ void connectFindBar(DemoCommands& c)
 void DemoEditCommands::registerCommands(DemoCommands& c)
 {
     addEditCommands(c);
-    connectUndoRedo(c);
+    connectUndoStep(c, C::EditUndo, false);
+    connectUndoStep(c, C::EditRedo, true);
     connectClipboard(c);
     c.onDocument(C::EditSelectAll, [](DemoDocument* doc) { doc->selectAll(); },
                  [](DemoDocument* doc) { return !doc->document()->isEmpty(); });

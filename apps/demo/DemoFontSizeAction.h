@@ -4,8 +4,9 @@
 
 class DemoCommands;
 
-/// The ribbon's font size box: a combo box whose entries run the font size
-/// commands. The ribbon keeps it as "ribbon.fontSize" in its stored layout.
+/// The font size box of the ribbon: its entries run the font size commands,
+/// and it shows and is enabled as they are (the checked one is the size at
+/// the cursor). The ribbon keeps it as "ribbon.fontSize".
 class DemoFontSizeAction : public QWidgetAction
 {
     Q_OBJECT
@@ -13,9 +14,14 @@ class DemoFontSizeAction : public QWidgetAction
 public:
     DemoFontSizeAction(DemoCommands* commands, QObject* parent);
 
+    /// The font size commands the box offers, in its order.
+    QList<QAction*> sizeCommands() const;
+
 protected:
     QWidget* createWidget(QWidget* parent) override;
 
 private:
+    void showCurrent();
+
     DemoCommands* m_commands;
 };

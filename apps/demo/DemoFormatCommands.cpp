@@ -2,10 +2,12 @@
 
 #include "DemoCommands.h"
 #include "DemoDocument.h"
+#include "DemoWindow.h"
 
 #include <tessaro/CommandsRegistry.h>
 
 #include <QAction>
+#include <QFontDialog>
 #include <QTextCursor>
 
 #include <algorithm>
@@ -47,6 +49,8 @@ void addFormatCommands(DemoCommands& c)
           T::tr("Mark the text with a yellow background"));
     c.add(C::FormatClear, G::ClearFormat, T::tr("C&lear Formatting"), QKeySequence(T::tr("Ctrl+Space")),
           T::tr("Remove character formatting"));
+    c.add(C::FormatFont, G::Font, T::tr("&Font..."), QKeySequence(T::tr("Ctrl+Shift+F")),
+          T::tr("Choose the font, its size and style"));
     const QList<int> sizes = T::fontSizes();
     for (int i = 0; i < sizes.size(); ++i)
         c.add(C::FormatSizeFirst + i, G::FontSize, T::tr("%1 pt").arg(sizes.at(i)), QKeySequence(),
@@ -169,6 +173,20 @@ void connectFontSizes(DemoCommands& c)
     });
 }
 
+// The font of the selection (or of the word under the cursor) as the font
+// window shows it: what the text sets, over the document's own font.
+void chooseFont(DemoWindow* window, DemoDocument* doc)
+{
+    const QFont current = doc->currentCharFormat().font().resolve(doc->document()->defaultFont());
+    bool chosen = false;
+    const QFont font = QFontDialog::getFont(&chosen, current, window, T::tr("Font"));
+    if (!chosen)
+        return;
+    QTextCharFormat format;
+    format.setFont(font);
+    doc->mergeFormat(T::tr("font"), format);
+}
+
 void connectTextColors(DemoCommands& c)
 {
     c.registry()->ConnectCommand(C::FormatColorFirst, C::FormatColorLast, [&c](int id) {
@@ -181,19 +199,10 @@ void connectTextColors(DemoCommands& c)
             doc->mergeFormat(T::tr("text colour"), format);
         }
     });
-    c.registry()->ConnectCommandUI(C::FormatColorFirst, C::FormatColorLast, [&c](int id, ui::CommandState& state) {
+    // Applying a colour is not a state: no entry (and so no Text Color button) shows pressed.
+    c.registry()->ConnectCommandUI(C::FormatColorFirst, C::FormatColorLast, [&c](int, ui::CommandState& state) {
         DemoDocument* doc = c.document();
         state.setEnabled(doc && !doc->isReadOnly());
-        bool checked = false;
-        if (doc) {
-            const QTextCharFormat format = doc->currentCharFormat();
-            const bool automatic = !format.hasProperty(QTextFormat::ForegroundBrush)
-                                   || format.foreground().color() == doc->palette().text().color();
-            checked = id == C::FormatColorFirst
-                          ? automatic
-                          : !automatic && format.foreground().color() == T::textColors().value(id - C::FormatColorFirst).second;
-        }
-        state.setChecked(checked);
     });
 }
 
@@ -227,5 +236,7 @@ void DemoFormatCommands::registerCommands(DemoCommands& c)
         });
         doc->setCurrentCharFormat(QTextCharFormat());
     }, [](DemoDocument* doc) { return !doc->isReadOnly(); });
+    c.onDocument(C::FormatFont, [window = c.window()](DemoDocument* doc) { chooseFont(window, doc); },
+                 [](DemoDocument* doc) { return !doc->isReadOnly(); });
     connectTextColors(c);
 }

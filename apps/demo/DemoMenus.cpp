@@ -103,7 +103,7 @@ void DemoMenus::buildInsert()
 void DemoMenus::buildFormat()
 {
     QMenu* format = m_categories[Format];
-    addToMenu(format, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
+    addToMenu(format, {C::FormatFont, 0, C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
                        C::FormatSubscript, C::FormatHighlight, 0});
     QMenu* size = newMenu(tr("Font Si&ze"), format);
     size->setIcon(IconPainter::icon(IconPainter::FontSize));

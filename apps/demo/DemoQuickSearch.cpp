@@ -1,127 +1,112 @@
 #include "DemoQuickSearch.h"
 
+#include "DemoCommands.h"
+#include "DemoFontSizeAction.h"
+#include "DemoMenus.h"
+#include "DemoWindow.h"
+
 #include <tessaro/QuickSearch.h>
+#include <tessaro/RibbonBar.h>
+
+#include <QtitanRibbon.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QEvent>
-#include <QMainWindow>
 #include <QMenu>
-#include <QMenuBar>
-#include <QPointer>
-#include <QTimer>
-#include <QToolBar>
-
-namespace demo {
+#include <QStatusBar>
+#include <QStyle>
+#include <QStyleOptionFrame>
 
 namespace {
 
-const char* const toolBarName = "quickSearchToolBar";
-
-// When the window's menu widget is replaced, the old one is hidden and then
-// deleted with its children: take the box out first and place it again once
-// the new menu widget is in.
-class HostWatch : public QObject
+// A ribbon group's actions as entries of \a menu: a group command's menu
+// becomes a submenu named after it, the font size box the submenu of its
+// sizes. Separators, menus filled when they open and other widgets have no
+// command to run.
+void addGroupActions(QMenu* menu, const QList<QAction*>& actions)
 {
-public:
-    HostWatch(QMainWindow* window, ui::QuickSearchWidget* box)
-        : QObject(box)
-        , m_window(window)
-        , m_box(box)
-    {
-    }
-
-    void watch(QWidget* host)
-    {
-        if (m_host)
-            m_host->removeEventFilter(this);
-        m_host = host;
-        if (host)
-            host->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched == m_host && event->type() == QEvent::Hide && m_host->isHidden()
-            && m_window->menuWidget() != nullptr && !m_window->isHidden()) {
-            watch(nullptr);
-            m_box->hide();
-            m_box->setParent(m_window);
-            QPointer<QMainWindow> window = m_window;
-            QPointer<ui::QuickSearchWidget> box = m_box;
-            QTimer::singleShot(0, m_box, [window, box] {
-                if (window && box)
-                    placeQuickSearch(window, box);
-            });
+    for (QAction* action : actions) {
+        if (action->isSeparator() || action->property("isDynamic").toBool())
+            continue;
+        if (auto* sizes = qobject_cast<DemoFontSizeAction*>(action)) {
+            QMenu* sub = menu->addMenu(sizes->text());
+            sub->addActions(sizes->sizeCommands());
+        } else if (qobject_cast<QWidgetAction*>(action)) {
+            continue;
+        } else if (action->menu() && !action->menu()->title().isEmpty()) {
+            QMenu* sub = menu->addMenu(action->menu()->title());
+            addGroupActions(sub, action->menu()->actions());
+        } else {
+            menu->addAction(action);
         }
-        return false;
-    }
-
-private:
-    QMainWindow* m_window;
-    ui::QuickSearchWidget* m_box;
-    QPointer<QWidget> m_host;
-};
-
-HostWatch* hostWatch(QMainWindow* window, ui::QuickSearchWidget* box)
-{
-    for (QObject* child : box->children()) {
-        if (auto* watch = dynamic_cast<HostWatch*>(child))
-            return watch;
-    }
-    return new HostWatch(window, box);
-}
-
-void removeOldPlacement(QMainWindow* window, ui::QuickSearchWidget* box)
-{
-    if (auto* bar = window->findChild<QToolBar*>(QLatin1String(toolBarName))) {
-        box->setParent(window);
-        delete bar;
-    }
-    const QList<QMenuBar*> bars = window->findChildren<QMenuBar*>();
-    for (QMenuBar* bar : bars) {
-        if (bar->cornerWidget(Qt::TopRightCorner) == box)
-            bar->setCornerWidget(nullptr, Qt::TopRightCorner);
     }
 }
 
 } // namespace
 
-ui::QuickSearchWidget* createQuickSearch(QMainWindow* window, const QList<QMenu*>& menus)
+DemoQuickSearch::DemoQuickSearch(DemoWindow* window)
+    : QObject(window)
+    , m_window(window)
+    , m_box(new ui::QuickSearchWidget(window))
 {
-    auto* box = new ui::QuickSearchWidget(window);
-    box->setObjectName(QStringLiteral("quickSearch"));
-    QList<QAction*> source;
-    for (QMenu* menu : menus)
-        source.append(menu->menuAction());
-    box->setSource(source);
-    placeQuickSearch(window, box);
-    return box;
+    m_box->setObjectName(QStringLiteral("quickSearch"));
+    window->statusBar()->addPermanentWidget(m_box);
+    m_box->installEventFilter(this);
+    fitPlaceholder();
 }
 
-void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box)
-{
-    removeOldPlacement(window, box);
-    QWidget* menuWidget = window->menuWidget();
-    hostWatch(window, box)->watch(menuWidget);
+DemoQuickSearch::~DemoQuickSearch() = default;
 
-    // The ribbon (itself a QMenuBar) keeps the box at the right end of its tab
-    // row; a plain menu bar, or one inside the menu widget (the shell's menu
-    // bar puts a real QMenuBar beside its corner strip), at its right end.
-    QMenuBar* bar = qobject_cast<QMenuBar*>(menuWidget);
-    if (!bar && menuWidget)
-        bar = menuWidget->findChild<QMenuBar*>();
-    if (bar) {
-        bar->setCornerWidget(box, Qt::TopRightCorner);
-        box->show();
+void DemoQuickSearch::refresh()
+{
+    if (m_window->ribbonBar()) {
+        buildRibbonSource();
+        m_box->setSource(m_ribbonSource->actions());
         return;
     }
-
-    auto* toolBar = new QToolBar(QApplication::translate("DemoSearch", "Quick Search"), window);
-    toolBar->setObjectName(QLatin1String(toolBarName));
-    toolBar->addWidget(box);
-    window->addToolBar(Qt::TopToolBarArea, toolBar);
-    box->show();
+    QList<QAction*> source;
+    for (QMenu* menu : m_window->commands()->menus().categories())
+        source << menu->menuAction();
+    m_box->setSource(source);
 }
 
-} // namespace demo
+void DemoQuickSearch::buildRibbonSource()
+{
+    m_ribbonSource = std::make_unique<QMenu>();
+    Qtitan::RibbonBar* ribbon = m_window->ribbonBar();
+    if (QAction* system = ribbon->systemButton() ? ribbon->systemButton()->defaultAction() : nullptr) {
+        QMenu* file = m_ribbonSource->addMenu(system->text());
+        if (auto* menu = qobject_cast<Qtitan::RibbonSystemMenu*>(system->menu())) {
+            addGroupActions(file, menu->actions());
+            addGroupActions(file, menu->popupBarActions());
+        }
+    }
+    for (Qtitan::RibbonPage* page : ribbon->pages()) {
+        QMenu* pageMenu = m_ribbonSource->addMenu(page->title());
+        for (Qtitan::RibbonGroup* group : page->groups())
+            addGroupActions(pageMenu->addMenu(group->title()), group->actions());
+    }
+}
+
+// The placeholder names the shortcut at its end: the box is made wide enough
+// for all of it, again whenever the style or the font changes.
+void DemoQuickSearch::fitPlaceholder()
+{
+    QStyleOptionFrame option;
+    option.initFrom(m_box);
+    option.lineWidth = m_box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, m_box);
+    const QMargins margins = m_box->textMargins();
+    // QLineEdit keeps two pixels between its frame and the text on each side.
+    const int text = m_box->fontMetrics().horizontalAdvance(m_box->placeholderText()) + margins.left()
+                     + margins.right() + 2 * 2 + 4;
+    const QSize size = m_box->style()->sizeFromContents(QStyle::CT_LineEdit, &option,
+                                                        QSize(text, m_box->sizeHint().height()), m_box);
+    m_box->setFixedWidth(qMax(size.width(), m_box->sizeHint().width()));
+}
+
+bool DemoQuickSearch::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_box && (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange))
+        fitPlaceholder();
+    return QObject::eventFilter(watched, event);
+}

@@ -1,24 +1,43 @@
 #pragma once
 
-#include <QList>
-#include <QString>
+#include <QObject>
 
-class QMainWindow;
+#include <memory>
+
+class DemoWindow;
 class QMenu;
 
 namespace ui {
 class QuickSearchWidget;
 }
 
-namespace demo {
+/// The demo's quick search: a box at the right end of the status bar, where
+/// its result popup has room to open above it, wide enough to show its whole
+/// placeholder. It searches the commands where the window shows them: the
+/// ribbon's File menu, pages and groups, or the menus of the classic menu
+/// bar, so that the path of a result is one the user can follow.
+class DemoQuickSearch : public QObject
+{
+    Q_OBJECT
 
-/// Creates the quick search box over every command of @p menus (the menu-bar
-/// categories) and puts it into @p window with placeQuickSearch().
-ui::QuickSearchWidget* createQuickSearch(QMainWindow* window, const QList<QMenu*>& menus);
+public:
+    /// Puts the box into the window's status bar; refresh() gives it the commands.
+    explicit DemoQuickSearch(DemoWindow* window);
+    ~DemoQuickSearch() override;
 
-/// Puts @p box at the right end of the ribbon's tab row when the window's menu
-/// widget is a ribbon bar, else at the right end of its menu bar, else in a
-/// tool bar of its own. Call it again after the menu widget changes.
-void placeQuickSearch(QMainWindow* window, ui::QuickSearchWidget* box);
+    ui::QuickSearchWidget* box() const { return m_box; }
+    /// Reads the commands again, for instance after the ribbon's layout changed.
+    void refresh();
 
-} // namespace demo
+    /// Fits the box to its placeholder again when the style or the font changes.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void fitPlaceholder();
+    void buildRibbonSource();
+
+    DemoWindow* m_window;
+    ui::QuickSearchWidget* m_box;
+    // The ribbon's commands arranged as menus by page and group, only for the search.
+    std::unique_ptr<QMenu> m_ribbonSource;
+};

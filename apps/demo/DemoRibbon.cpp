@@ -1,8 +1,8 @@
 #include "DemoRibbon.h"
 
 #include "DemoCommands.h"
+#include "DemoFontFamilyAction.h"
 #include "DemoFontSizeAction.h"
-#include "DemoMenus.h"
 #include "IconPainter.h"
 
 #include <tessaro/RibbonBar.h>
@@ -19,6 +19,7 @@ namespace demo {
 namespace {
 
 using C = DemoCommands;
+using G = IconPainter;
 
 QString tr(const char* text)
 {
@@ -42,15 +43,16 @@ public:
     void addInsertPage();
     void addViewPage(QMenu* panelsMenu, QMenu* styleMenu);
     void addToolsPage();
+    void addHelpPage();
     void addQuickAccessBar();
 
 private:
     void addCommands(Qtitan::RibbonGroup* group, const QList<int>& ids, Qt::ToolButtonStyle style);
     QAction* ribbonAction(const QString& name, const QIcon& icon, const QString& text);
-    QMenu* commandMenu(const QList<int>& ids);
-    QMenu* rangeMenu(int first, int last);
-    void addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, const QIcon& icon, const QString& text,
-                         QMenu* menu, Qt::ToolButtonStyle style, ui::GroupButtonType type);
+    QMenu* commandMenu(const QString& title, const QList<int>& ids);
+    static QList<int> range(int first, int last);
+    void addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, G::Glyph glyph, const QString& text,
+                         const QList<int>& ids, Qt::ToolButtonStyle style, ui::GroupButtonType type);
     void addMenuButton(Qtitan::RibbonGroup* group, QMenu* menu, const QIcon& icon, const QString& text,
                        const QString& name);
 
@@ -73,9 +75,11 @@ QAction* RibbonBuilder::ribbonAction(const QString& name, const QIcon& icon, con
     return action;
 }
 
-QMenu* RibbonBuilder::commandMenu(const QList<int>& ids)
+// A menu of commands (0 = separator); its title names it in the quick search.
+QMenu* RibbonBuilder::commandMenu(const QString& title, const QList<int>& ids)
 {
-    auto* menu = new QMenu(m_ribbon);
+    auto* menu = new QMenu(title, m_ribbon);
+    menu->setToolTipsVisible(true);
     for (int id : ids) {
         if (id == 0)
             menu->addSeparator();
@@ -85,21 +89,22 @@ QMenu* RibbonBuilder::commandMenu(const QList<int>& ids)
     return menu;
 }
 
-QMenu* RibbonBuilder::rangeMenu(int first, int last)
+QList<int> RibbonBuilder::range(int first, int last)
 {
     QList<int> ids;
     for (int id = first; id <= last; ++id)
         ids << id;
-    return commandMenu(ids);
+    return ids;
 }
 
-// A group command: a button whose menu holds commands; its kind decides what its face shows.
-void RibbonBuilder::addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, const QIcon& icon,
-                                    const QString& text, QMenu* menu, Qt::ToolButtonStyle style,
+// A group command: a button whose menu holds commands; its kind decides what
+// its face shows (always the first entry, the entry run last, or itself).
+void RibbonBuilder::addGroupCommand(Qtitan::RibbonGroup* group, const QString& name, G::Glyph glyph,
+                                    const QString& text, const QList<int>& ids, Qt::ToolButtonStyle style,
                                     ui::GroupButtonType type)
 {
-    QAction* action = ribbonAction(name, icon, text);
-    action->setMenu(menu);
+    QAction* action = ribbonAction(name, G::icon(glyph), text);
+    action->setMenu(commandMenu(text, ids));
     group->addAction(action);
     ui::setActionButtonStyle(group, action, style);
     ui::setGroupButtonType(group, action, type);
@@ -119,13 +124,26 @@ void RibbonBuilder::addSystemMenu()
 {
     QAction* file = ribbonAction(QStringLiteral("file"), QIcon(), tr("File"));
     file->setToolTip(tr("Create, open, save and export documents"));
-    file->setMenu(commandMenu({C::FileNew, C::FileOpen, C::FileSave, C::FileSaveAs, C::FileSaveAll, 0,
-                               C::FileExportHtml, C::FileExportText, C::FileProperties, 0, C::FileClose,
-                               C::FileCloseAll}));
+    QMenu* menu = commandMenu(tr("File"), {C::FileNew, C::FileOpen});
+    QMenu* recent = commandMenu(tr("Recent Files"), range(C::FileRecentFirst, C::FileRecentLast) << 0
+                                                        << C::FileClearRecent);
+    recent->setIcon(G::icon(G::Recent));
+    menu->addMenu(recent);
+    menu->addSeparator();
+    for (int id : {C::FileSave, C::FileSaveAs, C::FileSaveAll, C::FileRevert})
+        menu->addAction(m_commands->action(id));
+    menu->addSeparator();
+    for (int id : {C::FileExportHtml, C::FileExportText, C::FileProperties})
+        menu->addAction(m_commands->action(id));
+    menu->addSeparator();
+    for (int id : {C::FileClose, C::FileCloseAll})
+        menu->addAction(m_commands->action(id));
+    file->setMenu(menu);
     m_ribbon->setSystemButtonAction(file);
 
     // Options opens the keyboard shortcuts window, whose edits are kept.
-    QAction* options = ribbonAction(QStringLiteral("options"), IconPainter::icon(IconPainter::ToolBar), tr("Options"));
+    QAction* options = ribbonAction(QStringLiteral("options"), G::icon(G::Keyboard), tr("Options"));
+    options->setToolTip(tr("Change the key combinations of the commands"));
     QAction* shortcuts = m_commands->action(C::ToolsKeyboardShortcuts);
     QObject::connect(options, &QAction::triggered, shortcuts, &QAction::trigger);
     m_ribbon->addPopupBarAction(options);
@@ -138,34 +156,42 @@ void RibbonBuilder::addHomePage()
     Qtitan::RibbonPage* home = m_ribbon->addPage(tr("Home"));
     // Paste always shows Paste; the plain text variant is in its menu.
     Qtitan::RibbonGroup* clipboard = home->addGroup(tr("Clipboard"));
-    QAction* paste = m_commands->action(C::EditPaste);
-    addGroupCommand(clipboard, QStringLiteral("paste"), paste->icon(), paste->text(),
-                    commandMenu({C::EditPaste, C::EditPastePlain}), Qt::ToolButtonTextUnderIcon, ui::DynamicLite);
+    addGroupCommand(clipboard, QStringLiteral("paste"), G::Paste, tr("Paste"),
+                    {C::EditPaste, C::EditPastePlain}, Qt::ToolButtonTextUnderIcon, ui::DynamicLite);
     addCommands(clipboard, {C::EditCut, C::EditCopy}, Qt::ToolButtonTextBesideIcon);
 
     Qtitan::RibbonGroup* undo = home->addGroup(tr("Undo"));
     addCommands(undo, {C::EditUndo, C::EditRedo}, Qt::ToolButtonTextBesideIcon);
 
-    // Text Color remembers the colour picked last; a separator and the size box follow.
+    // The family and size boxes, then the character formats; Text Color
+    // remembers the colour picked last, Change Case only opens its menu.
     Qtitan::RibbonGroup* font = home->addGroup(tr("Font"));
+    font->addAction(new DemoFontFamilyAction(m_commands, m_ribbon));
+    font->addAction(new DemoFontSizeAction(m_commands, m_ribbon));
+    auto* separator = new QAction(m_ribbon);
+    separator->setSeparator(true);
+    font->addAction(separator);
     addCommands(font,
                 {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, C::FormatSuperscript,
                  C::FormatSubscript, C::FormatHighlight, C::FormatGrowFont, C::FormatShrinkFont, C::FormatClear},
                 Qt::ToolButtonIconOnly);
-    addGroupCommand(font, QStringLiteral("textColor"), IconPainter::icon(IconPainter::TextColor), tr("Text Color"),
-                    rangeMenu(C::FormatColorFirst, C::FormatColorLast), Qt::ToolButtonIconOnly, ui::Dynamic);
-    auto* separator = new QAction(m_ribbon);
-    separator->setSeparator(true);
-    font->addAction(separator);
-    font->addAction(new DemoFontSizeAction(m_commands, m_ribbon));
+    addGroupCommand(font, QStringLiteral("textColor"), G::TextColor, tr("Text Color"),
+                    range(C::FormatColorFirst, C::FormatColorLast), Qt::ToolButtonIconOnly, ui::Dynamic);
+    addGroupCommand(font, QStringLiteral("changeCase"), G::UpperCase, tr("Change Case"),
+                    {C::EditUpperCase, C::EditLowerCase}, Qt::ToolButtonIconOnly, ui::Simple);
+    addCommands(font, {C::FormatFont}, Qt::ToolButtonIconOnly);
 
     Qtitan::RibbonGroup* paragraph = home->addGroup(tr("Paragraph"));
     addCommands(paragraph,
                 {C::FormatAlignLeft, C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify,
                  C::FormatOutdent, C::FormatIndent, C::InsertBulletList, C::InsertNumberedList},
                 Qt::ToolButtonIconOnly);
+    // Find shows Find; the next and previous match are in its menu.
     Qtitan::RibbonGroup* editing = home->addGroup(tr("Editing"));
-    addCommands(editing, {C::EditFind, C::EditReplace, C::EditSelectAll}, Qt::ToolButtonTextBesideIcon);
+    addGroupCommand(editing, QStringLiteral("find"), G::Find, tr("Find"),
+                    {C::EditFind, C::EditFindNext, C::EditFindPrevious}, Qt::ToolButtonTextBesideIcon,
+                    ui::DynamicLite);
+    addCommands(editing, {C::EditReplace, C::EditSelectAll, C::EditDelete}, Qt::ToolButtonTextBesideIcon);
 }
 
 void RibbonBuilder::addInsertPage()
@@ -179,21 +205,26 @@ void RibbonBuilder::addInsertPage()
     // Symbol only opens its menu.
     Qtitan::RibbonGroup* text = insert->addGroup(tr("Text"));
     addCommands(text, {C::InsertDate, C::InsertTime, C::InsertLink}, Qt::ToolButtonTextBesideIcon);
-    addGroupCommand(text, QStringLiteral("symbol"), IconPainter::icon(IconPainter::Symbol), tr("Symbol"),
-                    rangeMenu(C::InsertSymbolFirst, C::InsertSymbolLast), Qt::ToolButtonTextUnderIcon, ui::Simple);
+    addGroupCommand(text, QStringLiteral("symbol"), G::Symbol, tr("Symbol"),
+                    range(C::InsertSymbolFirst, C::InsertSymbolLast), Qt::ToolButtonTextUnderIcon, ui::Simple);
 }
 
 void RibbonBuilder::addViewPage(QMenu* panelsMenu, QMenu* styleMenu)
 {
     Qtitan::RibbonPage* view = m_ribbon->addPage(tr("View"));
     Qtitan::RibbonGroup* window = view->addGroup(tr("Window"));
-    addMenuButton(window, panelsMenu, IconPainter::icon(IconPainter::ToolBar), tr("Panels"), QStringLiteral("panels"));
-    addMenuButton(window, styleMenu, IconPainter::icon(IconPainter::TextColor, QColor(43, 87, 154)), tr("Style"),
+    addMenuButton(window, panelsMenu, G::icon(G::ToolBar), tr("Panels"), QStringLiteral("panels"));
+    addGroupCommand(window, QStringLiteral("toolBars"), G::ToolBar, tr("Toolbars"),
+                    {C::ViewToolBarStandard, C::ViewToolBarFormat}, Qt::ToolButtonTextUnderIcon, ui::Simple);
+    addMenuButton(window, styleMenu, G::icon(G::TextColor, QColor(43, 87, 154)), tr("Style"),
                   QStringLiteral("style"));
+    addCommands(window, {C::ViewFullScreen}, Qt::ToolButtonTextUnderIcon);
     Qtitan::RibbonGroup* show = view->addGroup(tr("Show"));
-    addCommands(show, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar}, Qt::ToolButtonTextBesideIcon);
+    addCommands(show, {C::ViewRuler, C::ViewWordWrap, C::ViewStatusBar, C::ViewReadOnly}, Qt::ToolButtonTextBesideIcon);
     Qtitan::RibbonGroup* zoom = view->addGroup(tr("Zoom"));
     addCommands(zoom, {C::ViewZoomIn, C::ViewZoomOut, C::ViewZoomReset}, Qt::ToolButtonTextBesideIcon);
+    addGroupCommand(zoom, QStringLiteral("zoomLevels"), G::Zoom, tr("Zoom Level"),
+                    range(C::ViewZoomFirst, C::ViewZoomLast), Qt::ToolButtonTextUnderIcon, ui::Simple);
     Qtitan::RibbonGroup* documents = view->addGroup(tr("Documents"));
     addCommands(documents, {C::ViewPreviousDocument, C::ViewNextDocument, C::FileClose}, Qt::ToolButtonTextBesideIcon);
 }
@@ -206,6 +237,15 @@ void RibbonBuilder::addToolsPage()
     addCommands(text, {C::ToolsSortLines, C::ToolsTrimSpaces, C::EditDuplicateLine}, Qt::ToolButtonTextBesideIcon);
     Qtitan::RibbonGroup* saving = tools->addGroup(tr("Saving"));
     addCommands(saving, {C::ToolsAutoSave, C::FileSaveAll}, Qt::ToolButtonTextUnderIcon);
+    Qtitan::RibbonGroup* customize = tools->addGroup(tr("Customize"));
+    addCommands(customize, {C::ToolsKeyboardShortcuts}, Qt::ToolButtonTextUnderIcon);
+}
+
+void RibbonBuilder::addHelpPage()
+{
+    Qtitan::RibbonPage* help = m_ribbon->addPage(tr("Help"));
+    Qtitan::RibbonGroup* group = help->addGroup(tr("Help"));
+    addCommands(group, {C::HelpContents, C::HelpAbout, C::HelpAboutQt}, Qt::ToolButtonTextUnderIcon);
 }
 
 void RibbonBuilder::addQuickAccessBar()
@@ -228,6 +268,7 @@ ui::RibbonBar* createRibbon(DemoCommands* commands, QMenu* panelsMenu, QMenu* st
     builder.addInsertPage();
     builder.addViewPage(panelsMenu, styleMenu);
     builder.addToolsPage();
+    builder.addHelpPage();
     builder.addQuickAccessBar();
     return ribbon;
 }

@@ -9,7 +9,8 @@
 
 namespace demo {
 
-const QString DemoRibbonSerializer::layoutKey = QStringLiteral("ribbon/layout");
+// Layouts kept by builds whose ribbon lacked commands of the menus are set aside.
+const QString DemoRibbonSerializer::layoutKey = QStringLiteral("ribbon/layout2");
 const QString DemoRibbonSerializer::quickBarKey = QStringLiteral("ribbon/quickBar");
 
 namespace {

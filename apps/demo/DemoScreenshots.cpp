@@ -38,12 +38,10 @@ bool saveWindowPicture(QMainWindow* window, const QSize& size, const QString& fi
 bool saveQuickSearchPicture(QMainWindow* window, ui::QuickSearchWidget* box, const QString& query,
                             const QString& fileName)
 {
-    // The popup opens above the box: leave room for it above the window.
+    // The box is in the status bar; its popup opens above it, over the window.
     QScreen* screen = window->screen();
-    const QRect available = screen->availableGeometry();
-    const int room = qMin(360, available.height() / 3);
     window->setWindowState(Qt::WindowNoState);
-    window->setGeometry(available.adjusted(40, room, -40, -40));
+    window->setGeometry(screen->availableGeometry().adjusted(40, 40, -40, -40));
     window->show();
     window->activateWindow();
     settle(600);

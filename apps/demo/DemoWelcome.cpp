@@ -1,30 +1,70 @@
 #include "DemoWelcome.h"
 
+namespace {
+
+enum Path { UndoPath, ZoomLevelsPath, FontSizesPath, RulerPath, ShortcutsPath };
+
+QString shown(const QStringList& path)
+{
+    return QStringLiteral("<b>%1</b>").arg(path.join(QStringLiteral(" &rsaquo; ")));
+}
+
+} // namespace
+
 QString DemoWelcome::title()
 {
     return tr("Welcome");
 }
 
-QString DemoWelcome::html()
+QList<QStringList> DemoWelcome::paths(bool classic)
 {
-    return tr(
-        "<h1>Welcome to the Tessaro demo</h1>"
-        "<p>This window is a small rich-text editor built on the <b>Tessaro</b> command registry. "
-        "Every menu entry and toolbar button is a <i>command</i>: an id bound to an action, a run handler "
-        "and an update handler that enables, checks or renames it whenever the event loop wakes up.</p>"
-        "<h3>Things to try</h3>"
-        "<ul>"
-        "<li>Select a word: <b>Cut</b> and <b>Copy</b> become available, and <b>Bold</b> shows the word's format.</li>"
-        "<li>Type something, then open the <b>Edit</b> menu: Undo tells what it will undo.</li>"
-        "<li><b>View &rsaquo; Zoom</b> and <b>Format &rsaquo; Font Size</b> are id ranges served by one handler each.</li>"
-        "<li><b>View &rsaquo; Hide Ruler</b> renames itself to Show Ruler once the ruler is hidden.</li>"
-        "</ul>"
-        "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
-        "<tr><th>Menu</th><th>Examples</th></tr>"
-        "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"
-        "<tr><td>Insert</td><td>Date, Table, Image Placeholder, Symbol</td></tr>"
-        "<tr><td>Format</td><td>Bold, Alignment, Font Size, Text Colour</td></tr>"
-        "</table>"
-        "<p>Settings such as the window geometry, zoom and recent files are kept in a key/value store "
-        "in the user's configuration folder.</p>");
+    if (classic) {
+        return {{tr("Edit"), tr("Undo")},
+                {tr("View"), tr("Zoom")},
+                {tr("Format"), tr("Font Size")},
+                {tr("View"), tr("Hide Ruler")},
+                {tr("Tools"), tr("Keyboard Shortcuts…")}};
+    }
+    return {{tr("Home"), tr("Undo"), tr("Undo")},
+            {tr("View"), tr("Zoom"), tr("Zoom Level")},
+            {tr("Home"), tr("Font"), tr("Font Size")},
+            {tr("View"), tr("Show"), tr("Hide Ruler")},
+            {tr("File"), tr("Options")}};
+}
+
+QString DemoWelcome::html(bool classic)
+{
+    const QList<QStringList> path = paths(classic);
+    const QString where = classic ? tr("menu") : tr("ribbon");
+    return tr("<h1>Welcome to the Tessaro demo</h1>"
+              "<p>This window is a small rich-text editor built on the <b>Tessaro</b> command registry. "
+              "Every %1 entry and toolbar button is a <i>command</i>: an id bound to an action, a run handler "
+              "and an update handler that enables, checks or renames it whenever the event loop wakes up.</p>")
+               .arg(where)
+           + tr("<h3>Things to try</h3><ul>"
+                "<li>Select a word: <b>Cut</b> and <b>Copy</b> become available, and <b>Bold</b> shows the "
+                "word's format.</li>"
+                "<li>Type something, then point at %1: its tool tip tells what it will undo.</li>"
+                "<li>%2 and %3 are id ranges served by one handler each.</li>"
+                "<li>%4 renames itself to Show Ruler once the ruler is hidden.</li>"
+                "<li>Type a few letters of any command into the search box at the right of the status bar "
+                "(<b>Ctrl+Q</b>) and pick it from the list.</li>"
+                "<li>Give a command a new key in %5. The shortcuts, tool bars, panels, style and ribbon are "
+                "kept for the next start; <b>--reset-layout</b> forgets them.</li></ul>")
+                 .arg(shown(path.at(UndoPath)), shown(path.at(ZoomLevelsPath)), shown(path.at(FontSizesPath)),
+                      shown(path.at(RulerPath)), shown(path.at(ShortcutsPath)))
+           + (classic ? tr("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
+                           "<tr><th>Menu</th><th>Examples</th></tr>"
+                           "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"
+                           "<tr><td>Insert</td><td>Date, Table, Image Placeholder, Symbol</td></tr>"
+                           "<tr><td>Format</td><td>Font, Bold, Paragraph, Font Size, Text Colour</td></tr>"
+                           "</table>")
+                      : tr("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
+                           "<tr><th>Tab</th><th>Examples</th></tr>"
+                           "<tr><td>Home</td><td>Paste, Font, Text Color, Paragraph, Find</td></tr>"
+                           "<tr><td>Insert</td><td>Table, Image Placeholder, Date, Symbol</td></tr>"
+                           "<tr><td>View</td><td>Panels, Toolbars, Style, Zoom Level</td></tr>"
+                           "</table>"))
+           + tr("<p>Settings such as the window geometry, zoom and recent files are kept in a key/value store "
+                "in the user's configuration folder.</p>");
 }

@@ -6,6 +6,7 @@
 #include "DemoDocument.h"
 #include "DemoDocumentArea.h"
 #include "DemoFiles.h"
+#include "DemoFontFamilyAction.h"
 #include "DemoFindBar.h"
 #include "DemoMenus.h"
 #include "DemoQuickSearch.h"
@@ -48,10 +49,12 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
     // Shortcuts work whatever shows the actions (menus, tool bars or a ribbon).
     addActions(m_commands->registry()->getActions());
     createMenus();
-    demo::createQuickSearch(this, m_commands->menus().categories());
     createToolBars();
     createStatusBar();
+    m_quickSearch = new DemoQuickSearch(this);
     DemoWindowLayout::restore(*this);
+    // Searched where the restored ribbon (or the menu bar) shows the commands.
+    m_quickSearch->refresh();
     updateTitle();
 }
 
@@ -114,6 +117,8 @@ void DemoWindow::createToolBars()
                              C::ToolsWordCount, C::HelpContents});
     m_formatToolBar = addToolBar(tr("Formatting"));
     m_formatToolBar->setObjectName(QStringLiteral("formatToolBar"));
+    m_formatToolBar->addAction(new DemoFontFamilyAction(m_commands, m_formatToolBar));
+    m_formatToolBar->addSeparator();
     fill(m_formatToolBar, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, 0,
                            C::FormatSuperscript, C::FormatSubscript, C::FormatHighlight, 0, C::FormatAlignLeft,
                            C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify, 0, C::FormatOutdent,
@@ -322,7 +327,7 @@ void DemoWindow::information(const QString& title, const QString& text)
 void DemoWindow::openWelcomeDocument()
 {
     DemoDocument* doc = m_commands->files()->newDocument();
-    doc->setContent(DemoWelcome::html());
+    doc->setContent(DemoWelcome::html(m_classic));
     doc->setUntitledTitle(DemoWelcome::title());
     doc->moveCursor(QTextCursor::Start);
 }

@@ -10,6 +10,7 @@
 class DemoCommands;
 class DemoDocument;
 class DemoFindBar;
+class DemoQuickSearch;
 class DemoSettings;
 class QLabel;
 class QTimer;
@@ -55,6 +56,7 @@ public:
     void removeDocument(DemoDocument* document);
 
     DemoFindBar* findBar() const { return m_findBar; }
+    DemoQuickSearch* quickSearch() const { return m_quickSearch; }
     QToolBar* standardToolBar() const { return m_standardToolBar; }
     QToolBar* formatToolBar() const { return m_formatToolBar; }
     void showMessage(const QString& text, int timeout = 4000);
@@ -100,6 +102,7 @@ private:
     ui::DockListMenu* m_panelsMenu = nullptr;
     demo::StyleMenu* m_styleMenu = nullptr;
     DemoFindBar* m_findBar = nullptr;
+    DemoQuickSearch* m_quickSearch = nullptr;
     QToolBar* m_standardToolBar = nullptr;
     QToolBar* m_formatToolBar = nullptr;
     QLabel* m_positionLabel = nullptr;

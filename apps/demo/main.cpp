@@ -1,6 +1,7 @@
 #include "DemoCommands.h"
 #include "DemoFiles.h"
 #include "DemoOptions.h"
+#include "DemoQuickSearch.h"
 #include "DemoScreenshots.h"
 #include "DemoShellOptions.h"
 #include "DemoTranslations.h"
@@ -52,8 +53,7 @@ int main(int argc, char* argv[])
         const QString path = QFileInfo(options.screenshotFile).absoluteFilePath();
         const bool saved = options.searchText.isEmpty()
             ? demo::saveWindowPicture(&window, options.screenshotSize, path)
-            : demo::saveQuickSearchPicture(&window, window.findChild<ui::QuickSearchWidget*>(QStringLiteral("quickSearch")),
-                                           options.searchText, path);
+            : demo::saveQuickSearchPicture(&window, window.quickSearch()->box(), options.searchText, path);
         if (!saved) {
             QTextStream(stderr) << "Cannot write " << QDir::toNativeSeparators(path) << '\n';
             return 1;

@@ -1,4 +1,8 @@
 #include "DemoCommands.h"
+#include "DemoDocument.h"
+#include "DemoFiles.h"
+#include "DemoFontSizeAction.h"
+#include "DemoMenus.h"
 #include "DemoRibbonSerializer.h"
 #include "DemoSettings.h"
 #include "DemoWindow.h"
@@ -9,9 +13,13 @@
 
 #include <QtitanRibbon.h>
 
+#include <QComboBox>
+#include <QFontComboBox>
 #include <QTemporaryDir>
 #include <QWidgetAction>
 #include <QtTest>
+
+#include <functional>
 
 namespace {
 
@@ -36,6 +44,51 @@ QAction* named(ui::RibbonBar* ribbon, const QString& name)
     return ribbon->findChild<QAction*>(name, Qt::FindDirectChildrenOnly);
 }
 
+using C = DemoCommands;
+
+// The registered commands a menu offers, its submenus walked into; its
+// menus filled when they open are listed by class.
+void collectMenu(QMenu* menu, QSet<int>& ids, QStringList& dynamicMenus)
+{
+    for (QAction* action : menu->actions()) {
+        if (action->property("isDynamic").toBool() && action->menu()) {
+            dynamicMenus << QString::fromLatin1(action->menu()->metaObject()->className());
+            continue;
+        }
+        if (action->data().toInt() > 0)
+            ids.insert(action->data().toInt());
+        if (action->menu())
+            collectMenu(action->menu(), ids, dynamicMenus);
+    }
+}
+
+// The same for the actions of a ribbon group (or of the system menu's bar),
+// with the entries of the group's boxes.
+void collectRibbonActions(Qtitan::RibbonGroup* group, const QList<QAction*>& actions, QSet<int>& ids,
+                          QStringList& dynamicMenus)
+{
+    for (QAction* action : actions) {
+        if (qobject_cast<QWidgetAction*>(action)) {
+            QWidget* control = group ? group->controlByAction(action) : nullptr;
+            for (QComboBox* combo : control ? control->findChildren<QComboBox*>() : QList<QComboBox*>()) {
+                for (int i = 0; i < combo->count(); ++i) {
+                    if (combo->itemData(i).toInt() > 0)
+                        ids.insert(combo->itemData(i).toInt());
+                }
+            }
+            continue;
+        }
+        if (action->property("isDynamic").toBool() && action->menu()) {
+            dynamicMenus << QString::fromLatin1(action->menu()->metaObject()->className());
+            continue;
+        }
+        if (action->data().toInt() > 0)
+            ids.insert(action->data().toInt());
+        if (action->menu())
+            collectMenu(action->menu(), ids, dynamicMenus);
+    }
+}
+
 } // namespace
 
 class tst_DemoRibbon : public QObject
@@ -46,6 +99,11 @@ private slots:
     void builtRibbon();
     void layoutSurvivesRestart();
     void resetLayoutDropsIt();
+    void ribbonOffersEveryMenuCommand();
+    void buttonLabelsKeepTheirWidthWhileTyping();
+    void readOnlyDisablesEveryFontControl();
+    void textColorNeverLooksPressed();
+    void fontBoxesFollowTheCursorAndApply();
 };
 
 void tst_DemoRibbon::builtRibbon()
@@ -100,7 +158,7 @@ void tst_DemoRibbon::layoutSurvivesRestart()
     ui::RibbonBar* ribbon = ribbonOf(window);
     QCOMPARE(ribbon->page(0)->title(), QStringLiteral("Start"));
     Qtitan::RibbonGroup* editing = group(ribbon, QObject::tr("Editing"));
-    QCOMPARE(editing->actions().last(), window.commands()->action(DemoCommands::EditFind));
+    QCOMPARE(editing->actions().last(), named(ribbon, QStringLiteral("ribbon.find")));
     QCOMPARE(ui::actionButtonStyle(editing, editing->actions().first()), Qt::ToolButtonTextUnderIcon);
     QCOMPARE(ribbon->quickAccessBar()->actions().size(), 3);
     QVERIFY(!ribbon->quickAccessBar()->actions().contains(window.commands()->action(DemoCommands::FileNew)));
@@ -138,6 +196,161 @@ void tst_DemoRibbon::resetLayoutDropsIt()
     }
     DemoWindow window(settings);
     QCOMPARE(ribbonOf(window)->page(0)->title(), QObject::tr("Home"));
+}
+
+void tst_DemoRibbon::ribbonOffersEveryMenuCommand()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    QSet<int> menuIds;
+    QStringList menuDynamic;
+    collectMenu(window.commands()->menus().root(), menuIds, menuDynamic);
+    QVERIFY(menuIds.size() >= 100);
+
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    QSet<int> ribbonIds;
+    QStringList ribbonDynamic;
+    QAction* system = ribbon->systemButton()->defaultAction();
+    collectMenu(system->menu(), ribbonIds, ribbonDynamic);
+    collectRibbonActions(nullptr, qobject_cast<Qtitan::RibbonSystemMenu*>(system->menu())->popupBarActions(),
+                         ribbonIds, ribbonDynamic);
+    for (Qtitan::RibbonPage* page : ribbon->pages()) {
+        for (Qtitan::RibbonGroup* g : page->groups())
+            collectRibbonActions(g, g->actions(), ribbonIds, ribbonDynamic);
+    }
+
+    QStringList missing;
+    for (int id : qAsConst(menuIds)) {
+        if (!ribbonIds.contains(id))
+            missing << window.commands()->action(id)->text();
+    }
+    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(QStringLiteral(", "))));
+    // The menus filled when they open: the panels and the styles.
+    menuDynamic.sort();
+    ribbonDynamic.sort();
+    QCOMPARE(menuDynamic, (QStringList{QStringLiteral("demo::StyleMenu"), QStringLiteral("ui::DockListMenu")}));
+    QCOMPARE(ribbonDynamic, menuDynamic);
+    // Among them the ones a user would look for on a ribbon.
+    for (int id : {C::ToolsKeyboardShortcuts, C::HelpAbout, C::ViewReadOnly, C::ViewFullScreen})
+        QVERIFY(ribbonIds.contains(id));
+    QVERIFY(qobject_cast<QWidgetAction*>(named(ribbon, QStringLiteral("ribbon.fontFamily"))));
+}
+
+void tst_DemoRibbon::buttonLabelsKeepTheirWidthWhileTyping()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    window.resize(1400, 800);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    ribbon->setCurrentPageIndex(0);
+    QCoreApplication::processEvents();
+    Qtitan::RibbonGroup* undo = group(ribbon, QStringLiteral("Undo"));
+    QWidget* undoButton = undo->controlByAction(window.commands()->action(C::EditUndo));
+    QVERIFY(undoButton);
+    const auto geometries = [&] {
+        QList<QRect> list{undoButton->geometry()};
+        for (Qtitan::RibbonGroup* g : ribbon->page(0)->groups())
+            list << g->geometry();
+        return list;
+    };
+    const QList<QRect> before = geometries();
+
+    doc->setFocus();
+    QTest::keyClicks(doc, QStringLiteral("some words"));
+    QCoreApplication::processEvents();
+    QCOMPARE(window.commands()->action(C::EditUndo)->toolTip().section(QStringLiteral(" ("), 0, 0),
+             QStringLiteral("Undo typing"));
+    doc->selectAll();
+    window.commands()->action(C::EditLowerCase)->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(window.commands()->action(C::EditUndo)->toolTip().startsWith(QStringLiteral("Undo lower")));
+    QCOMPARE(geometries(), before);
+}
+
+void tst_DemoRibbon::readOnlyDisablesEveryFontControl()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    Qtitan::RibbonGroup* font = group(ribbon, QStringLiteral("Font"));
+    QWidget* sizeBox = font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))->findChild<QComboBox*>();
+    QWidget* familyBox =
+        font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontFamily")))->findChild<QFontComboBox*>();
+    QVERIFY(sizeBox && familyBox);
+    QAction* color = named(ribbon, QStringLiteral("ribbon.textColor"));
+    const auto fontControls = [&] {
+        QList<bool> enabled{sizeBox->isEnabled(), familyBox->isEnabled(), color->isEnabled()};
+        for (QAction* action : font->actions()) {
+            if (action->data().toInt() > 0)
+                enabled << action->isEnabled();
+        }
+        return enabled;
+    };
+    QTRY_VERIFY(!fontControls().contains(false));
+    window.commands()->action(C::ViewReadOnly)->trigger();
+    QVERIFY(doc->isReadOnly());
+    QTRY_VERIFY(!fontControls().contains(true));
+    window.commands()->action(C::ViewReadOnly)->trigger();
+    QTRY_VERIFY(!fontControls().contains(false));
+}
+
+void tst_DemoRibbon::textColorNeverLooksPressed()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    doc->setPlainText(QStringLiteral("colour me"));
+    doc->selectAll();
+    QAction* color = named(ribbonOf(window), QStringLiteral("ribbon.textColor"));
+    QCoreApplication::processEvents();
+    QVERIFY(!color->isChecked());
+    window.commands()->action(C::FormatColorFirst + 1)->trigger();
+    QCoreApplication::processEvents();
+    QVERIFY(!color->isChecked());
+    // Its face stands for the colour picked last.
+    QCOMPARE(color->text(), window.commands()->action(C::FormatColorFirst + 1)->text());
+}
+
+void tst_DemoRibbon::fontBoxesFollowTheCursorAndApply()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    Qtitan::RibbonGroup* font = group(ribbon, QStringLiteral("Font"));
+    auto* sizeBox = font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))->findChild<QComboBox*>();
+    auto* familyBox =
+        font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontFamily")))->findChild<QFontComboBox*>();
+
+    doc->setHtml(QStringLiteral("<p>plain <span style=\"font-size:18pt; font-family:'DejaVu Serif'\">big</span></p>"));
+    QTextCursor cursor = doc->textCursor();
+    cursor.setPosition(8);
+    doc->setTextCursor(cursor);
+    QTRY_COMPARE(sizeBox->currentText(), QStringLiteral("18"));
+    QTRY_COMPARE(familyBox->currentFont().family(), QStringLiteral("DejaVu Serif"));
+    cursor.setPosition(2);
+    doc->setTextCursor(cursor);
+    QTRY_COMPARE(sizeBox->currentText(), QStringLiteral("11"));
+    QVERIFY(familyBox->currentFont().family() != QStringLiteral("DejaVu Serif"));
+
+    // Choosing in the boxes formats the word under the cursor.
+    const int index = sizeBox->findText(QStringLiteral("24"));
+    QVERIFY(index >= 0);
+    sizeBox->setCurrentIndex(index);
+    emit sizeBox->activated(index);
+    emit familyBox->textActivated(QStringLiteral("DejaVu Sans Mono"));
+    QTextCursor probe(doc->document());
+    probe.setPosition(2);
+    QCOMPARE(probe.charFormat().fontPointSize(), 24.0);
+    QCOMPARE(probe.charFormat().fontFamily(), QStringLiteral("DejaVu Sans Mono"));
 }
 
 QTEST_MAIN(tst_DemoRibbon)

@@ -1,29 +1,40 @@
 #include "DemoClassicMenuBar.h"
 #include "DemoCommands.h"
 #include "DemoDocks.h"
+#include "DemoDocument.h"
 #include "DemoDocumentArea.h"
 #include "DemoFiles.h"
 #include "DemoMenus.h"
+#include "DemoQuickSearch.h"
 #include "DemoSettings.h"
 #include "DemoShellOptions.h"
 #include "DemoStyles.h"
+#include "DemoWelcome.h"
 #include "DemoWindow.h"
 
 #include <tessaro/DockListMenu.h>
 #include <tessaro/MainWindow.h>
 #include <tessaro/MdiArea.h>
 #include <tessaro/MenuBar.h>
+#include <tessaro/QuickSearch.h>
+
+#include <QtitanRibbon.h>
 
 #include <QApplication>
 #include <QDockWidget>
 #include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
+#include <QStatusBar>
 #include <QStyleFactory>
+#include <QStyleOptionFrame>
 #include <QTabBar>
+#include <QTemporaryDir>
+#include <QTextCursor>
+#include <QTextDocumentFragment>
 #include <QTextEdit>
 #include <QToolBar>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
@@ -54,7 +65,67 @@ private slots:
     void demoWindowUsesTheShell();
     void demoWindowRemembersTheChosenStyle();
     void demoWindowClassicMode();
+    void welcomeTextIsTrueInBothModes_data();
+    void welcomeTextIsTrueInBothModes();
+    void quickSearchSitsInTheStatusBar_data();
+    void quickSearchSitsInTheStatusBar();
 };
+
+namespace {
+
+QString plain(const QString& text)
+{
+    return QString(text).remove(QLatin1Char('&')).section(QLatin1Char('\t'), 0, 0);
+}
+
+QAction* findByText(const QList<QAction*>& actions, const QString& text)
+{
+    for (QAction* action : actions) {
+        if (plain(action->text()) == text || (action->menu() && plain(action->menu()->title()) == text))
+            return action;
+    }
+    return nullptr;
+}
+
+// The command at the end of \a path, following it as a user would: menu by
+// menu, or ribbon tab, group and button (or the File menu).
+QAction* follow(DemoWindow& window, const QStringList& path)
+{
+    QList<QAction*> choices;
+    int next = 1;
+    if (window.isClassic()) {
+        for (QMenu* menu : window.commands()->menus().categories())
+            choices << menu->menuAction();
+        next = 0;
+    } else {
+        Qtitan::RibbonBar* ribbon = window.ribbonBar();
+        QAction* system = ribbon->systemButton()->defaultAction();
+        if (plain(system->text()) == path.first()) {
+            choices = system->menu()->actions()
+                      + qobject_cast<Qtitan::RibbonSystemMenu*>(system->menu())->popupBarActions();
+        } else {
+            for (Qtitan::RibbonPage* page : ribbon->pages()) {
+                if (page->title() != path.first())
+                    continue;
+                for (Qtitan::RibbonGroup* group : page->groups()) {
+                    if (path.size() > 1 && group->title() == path.at(1))
+                        choices = group->actions();
+                }
+            }
+            next = 2;
+        }
+    }
+    QAction* found = nullptr;
+    for (int i = next; i < path.size(); ++i) {
+        found = findByText(choices, path.at(i));
+        if (!found)
+            return nullptr;
+        choices = found->menu() ? found->menu()->actions() : QList<QAction*>();
+    }
+    return found;
+}
+
+} // namespace
 
 void tst_DemoShell::cleanup()
 {
@@ -308,6 +379,92 @@ void tst_DemoShell::demoWindowClassicMode()
     QCOMPARE(corner.last(), window.commands()->action(DemoCommands::HelpContents));
     for (QAction* action : corner)
         QVERIFY(!action->icon().isNull());
+}
+
+void tst_DemoShell::welcomeTextIsTrueInBothModes_data()
+{
+    QTest::addColumn<bool>("classic");
+    QTest::newRow("ribbon") << false;
+    QTest::newRow("classic") << true;
+}
+
+void tst_DemoShell::welcomeTextIsTrueInBothModes()
+{
+    QFETCH(bool, classic);
+    QTemporaryDir dir;
+    demo::ShellOptions options;
+    options.classic = classic;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")), nullptr, options);
+    window.openWelcomeDocument();
+    QCoreApplication::processEvents();
+    const QString html = DemoWelcome::html(classic);
+    QCOMPARE(window.activeDocument()->toPlainText(), QTextDocumentFragment::fromHtml(html).toPlainText());
+    const QList<QStringList> paths = DemoWelcome::paths(classic);
+    QCOMPARE(paths.size(), 5);
+    for (const QStringList& path : paths) {
+        QVERIFY2(html.contains(path.join(QStringLiteral(" &rsaquo; "))), qPrintable(path.join(QLatin1Char('>'))));
+        QVERIFY2(follow(window, path), qPrintable(path.join(QStringLiteral(" > "))));
+    }
+    // The other mode's ways are not offered here.
+    for (const QStringList& path : DemoWelcome::paths(!classic))
+        QVERIFY2(!follow(window, path), qPrintable(path.join(QStringLiteral(" > "))));
+}
+
+void tst_DemoShell::quickSearchSitsInTheStatusBar_data()
+{
+    QTest::addColumn<bool>("classic");
+    QTest::addColumn<QString>("boldPath");
+    QTest::newRow("ribbon") << false << QString::fromUtf8("Home \u2192 Font \u2192 Bold");
+    QTest::newRow("classic") << true << QString::fromUtf8("Format \u2192 Bold");
+}
+
+void tst_DemoShell::quickSearchSitsInTheStatusBar()
+{
+    QFETCH(bool, classic);
+    QFETCH(QString, boldPath);
+    QTemporaryDir dir;
+    demo::ShellOptions options;
+    options.classic = classic;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")), nullptr, options);
+    window.openWelcomeDocument();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::QuickSearchWidget* box = window.quickSearch()->box();
+    QVERIFY(window.statusBar()->isAncestorOf(box));
+    QVERIFY(box->isVisible());
+
+    // The whole placeholder fits, the shortcut at its end included.
+    QStyleOptionFrame option;
+    option.initFrom(box);
+    option.lineWidth = box->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, box);
+    const QRect text = box->style()->subElementRect(QStyle::SE_LineEditContents, &option, box);
+    QVERIFY(box->placeholderText().endsWith(QStringLiteral("(Ctrl + Q)")));
+    QVERIFY2(box->fontMetrics().horizontalAdvance(box->placeholderText()) <= text.width() - 4,
+             qPrintable(QStringLiteral("%1 > %2").arg(box->fontMetrics().horizontalAdvance(box->placeholderText()))
+                            .arg(text.width())));
+
+    // The popup opens above the box, with room to spare, and names the way
+    // to the command as this window shows it.
+    box->setFocus();
+    QTest::keyClicks(box, QStringLiteral("bold"));
+    auto* popup = box->findChild<QMenu*>();
+    QTRY_VERIFY(popup && popup->isVisible());
+    const QRect boxArea(box->mapToGlobal(QPoint(0, 0)), box->size());
+    QVERIFY(popup->geometry().bottom() < boxArea.top());
+    QVERIFY(popup->geometry().top() >= window.screen()->geometry().top());
+    QAction* first = popup->actions().value(0);
+    QVERIFY(first);
+    QCOMPARE(first->text(), boldPath);
+    popup->close();
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    doc->setPlainText(QStringLiteral("plain words"));
+    QTextCursor cursor = doc->textCursor();
+    cursor.setPosition(2);
+    doc->setTextCursor(cursor);
+    first->trigger();
+    QTextCursor probe(doc->document());
+    probe.setPosition(2);
+    QCOMPARE(probe.charFormat().fontWeight(), int(QFont::Bold));
 }
 
 QTEST_MAIN(tst_DemoShell)

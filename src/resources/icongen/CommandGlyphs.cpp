@@ -351,6 +351,11 @@ void paintCommandGlyph(QPainter& p, IconPainter::Glyph glyph, const QColor& acce
         letters(p, QStringLiteral("A"), QRectF(0, 8, 16, 22), ink, QFont::Bold, false, 20);
         letters(p, QStringLiteral("a"), QRectF(16, 14, 14, 16), blue, QFont::Bold, false, 14);
         break;
+    case G::Font:
+        // The font window: a dialog frame around a serif letter.
+        windowFrame(p);
+        letters(p, QStringLiteral("A"), QRectF(6, 12, 20, 14), ink, QFont::Bold, false, 15);
+        break;
     case G::ClearFormat:
         letters(p, QStringLiteral("A"), QRectF(0, 2, 22, 24), ink, QFont::Bold, false, 22);
         p.save();

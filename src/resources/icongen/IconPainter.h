@@ -37,7 +37,7 @@ public:
         FullScreen, NextDocument, PreviousDocument,
         Date, Time, Table, Image, HorizontalLine, BulletList, NumberedList, Link, Symbol,
         Bold, Italic, Underline, StrikeOut, Superscript, Subscript, AlignLeft, AlignCenter,
-        AlignRight, AlignJustify, Indent, Outdent, GrowFont, ShrinkFont, FontSize, ClearFormat,
+        AlignRight, AlignJustify, Indent, Outdent, GrowFont, ShrinkFont, FontSize, Font, ClearFormat,
         Highlight, TextColor,
         WordCount, SortLines, TrimSpaces, AutoSave, Keyboard,
         Help, About, AboutQt,
