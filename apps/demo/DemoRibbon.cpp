@@ -213,7 +213,7 @@ void RibbonBuilder::addViewPage(QMenu* panelsMenu, QMenu* styleMenu)
 {
     Qtitan::RibbonPage* view = m_ribbon->addPage(tr("View"));
     Qtitan::RibbonGroup* window = view->addGroup(tr("Window"));
-    addMenuButton(window, panelsMenu, G::icon(G::ToolBar), tr("Panels"), QStringLiteral("panels"));
+    addMenuButton(window, panelsMenu, G::icon(G::Panels), tr("Panels"), QStringLiteral("panels"));
     addGroupCommand(window, QStringLiteral("toolBars"), G::ToolBar, tr("Toolbars"),
                     {C::ViewToolBarStandard, C::ViewToolBarFormat}, Qt::ToolButtonTextUnderIcon, ui::Simple);
     addMenuButton(window, styleMenu, G::icon(G::TextColor, QColor(43, 87, 154)), tr("Style"),

@@ -35,13 +35,15 @@ bool saveWindowPicture(QMainWindow* window, const QSize& size, const QString& fi
     return window->grab().save(fileName, "PNG");
 }
 
-bool saveQuickSearchPicture(QMainWindow* window, ui::QuickSearchWidget* box, const QString& query,
-                            const QString& fileName)
+bool saveQuickSearchPicture(QMainWindow* window, const QSize& size, ui::QuickSearchWidget* box,
+                            const QString& query, const QString& fileName)
 {
     // The box is in the status bar; its popup opens above it, over the window.
     QScreen* screen = window->screen();
     window->setWindowState(Qt::WindowNoState);
-    window->setGeometry(screen->availableGeometry().adjusted(40, 40, -40, -40));
+    QRect frame(QPoint(), size);
+    frame.moveCenter(screen->availableGeometry().center());
+    window->setGeometry(frame);
     window->show();
     window->activateWindow();
     settle(600);

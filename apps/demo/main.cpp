@@ -53,7 +53,8 @@ int main(int argc, char* argv[])
         const QString path = QFileInfo(options.screenshotFile).absoluteFilePath();
         const bool saved = options.searchText.isEmpty()
             ? demo::saveWindowPicture(&window, options.screenshotSize, path)
-            : demo::saveQuickSearchPicture(&window, window.quickSearch()->box(), options.searchText, path);
+            : demo::saveQuickSearchPicture(&window, options.screenshotSize, window.quickSearch()->box(),
+                                           options.searchText, path);
         if (!saved) {
             QTextStream(stderr) << "Cannot write " << QDir::toNativeSeparators(path) << '\n';
             return 1;

@@ -210,6 +210,14 @@ void paintCommandGlyph(QPainter& p, IconPainter::Glyph glyph, const QColor& acce
         for (int i = 0; i < 4; ++i)
             fill(p, 6 + i * 6, 13, 4, 4, i == 0 ? blue : grey);
         break;
+    case G::Panels:
+        // Docked panels on both sides of the document.
+        windowFrame(p);
+        fill(p, 4, 11, 7, 15, blueLight);
+        fill(p, 22, 11, 7, 15, blueLight);
+        textLines(p, 5, 13, 5, 3, blue, 4);
+        textLines(p, 23, 13, 5, 3, blue, 4);
+        break;
     case G::StatusBar:
         windowFrame(p);
         fill(p, 4, 21, 25, 5, blueLight);

@@ -33,7 +33,7 @@ public:
         Properties, Recent, ClearRecent, Exit,
         Undo, Redo, Cut, Copy, Paste, PastePlain, Delete, SelectAll, Find, FindNext,
         FindPrevious, Replace, DuplicateLine, UpperCase, LowerCase,
-        ZoomIn, ZoomOut, ZoomReset, Zoom, WordWrap, Ruler, ReadOnly, ToolBar, StatusBar,
+        ZoomIn, ZoomOut, ZoomReset, Zoom, WordWrap, Ruler, ReadOnly, ToolBar, Panels, StatusBar,
         FullScreen, NextDocument, PreviousDocument,
         Date, Time, Table, Image, HorizontalLine, BulletList, NumberedList, Link, Symbol,
         Bold, Italic, Underline, StrikeOut, Superscript, Subscript, AlignLeft, AlignCenter,
