@@ -13,9 +13,12 @@ class DemoAutoSave : public QObject
     Q_OBJECT
 
 public:
+    /// Saves the documents of \a window; starts as the window's settings say.
     DemoAutoSave(DemoWindow* window, QObject* parent);
 
+    /// Whether documents are being saved every 30 seconds.
     bool isOn() const;
+    /// Starts or stops the saving.
     void setOn(bool on);
 
 private:

@@ -133,10 +133,13 @@ public:
     explicit DemoCommands(DemoWindow* window);
     ~DemoCommands() override;
 
+    /// The registry every command is registered in.
     ui::CommandsRegistry* registry() const { return m_registry; }
+    /// The window the commands act in.
     DemoWindow* window() const { return m_window; }
     /// The documents' file operations and the recent files list.
     DemoFiles* files() const { return m_files; }
+    /// The timer behind Tools › Auto Save.
     DemoAutoSave* autoSave() const { return m_autoSave; }
     /// The menu tree of the commands.
     const DemoMenus& menus() const { return *m_menus; }

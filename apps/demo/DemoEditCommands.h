@@ -12,5 +12,6 @@ class DemoEditCommands
     Q_DECLARE_TR_FUNCTIONS(DemoEditCommands)
 
 public:
+    /// Registers the category's commands in \a commands with their run and update handlers.
     static void registerCommands(DemoCommands& commands);
 };

@@ -11,5 +11,6 @@ class DemoFileCommands
     Q_DECLARE_TR_FUNCTIONS(DemoFileCommands)
 
 public:
+    /// Registers the category's commands in \a commands with their run and update handlers.
     static void registerCommands(DemoCommands& commands);
 };

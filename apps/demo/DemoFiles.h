@@ -15,6 +15,7 @@ class DemoFiles : public QObject
     Q_OBJECT
 
 public:
+    /// The file operations of the documents of \a commands' window.
     explicit DemoFiles(DemoCommands* commands);
 
     /// A new untitled document, shown and active.
@@ -35,6 +36,7 @@ public:
 
     /// Most recently used first.
     QStringList recentFiles() const { return m_recentFiles; }
+    /// Replaces the list (at most DemoSettings::maxRecentFiles entries) and keeps it in the settings.
     void setRecentFiles(const QStringList& files);
 
 private:

@@ -15,6 +15,7 @@ class DemoFontFamilyAction : public QWidgetAction
     Q_OBJECT
 
 public:
+    /// A box that follows the document \a commands act on.
     DemoFontFamilyAction(DemoCommands* commands, QObject* parent);
 
 protected:

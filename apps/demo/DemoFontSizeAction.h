@@ -12,6 +12,7 @@ class DemoFontSizeAction : public QWidgetAction
     Q_OBJECT
 
 public:
+    /// The box over the font size commands of \a commands.
     DemoFontSizeAction(DemoCommands* commands, QObject* parent);
 
     /// The font size commands the box offers, in its order.

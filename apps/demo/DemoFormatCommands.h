@@ -16,6 +16,7 @@ class DemoFormatCommands
     Q_DECLARE_TR_FUNCTIONS(DemoFormatCommands)
 
 public:
+    /// Registers the category's commands in \a commands with their run and update handlers.
     static void registerCommands(DemoCommands& commands);
 
     /// The point sizes of the range FormatSizeFirst..FormatSizeLast, in id order.

@@ -15,6 +15,7 @@ class DemoInsertCommands
     Q_DECLARE_TR_FUNCTIONS(DemoInsertCommands)
 
 public:
+    /// Registers the category's commands in \a commands with their run and update handlers.
     static void registerCommands(DemoCommands& commands);
 
     /// The names and characters of the range InsertSymbolFirst..InsertSymbolLast, in id order.

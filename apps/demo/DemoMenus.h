@@ -19,6 +19,7 @@ class DemoMenus
 public:
     enum Category { File, Edit, View, Insert, Format, Tools, Help, CategoryCount };
 
+    /// Builds the menus from the commands registered in \a commands.
     explicit DemoMenus(DemoCommands& commands);
 
     /// A menu whose submenus are the categories, in menu-bar order.

@@ -25,6 +25,7 @@ public:
     explicit DemoQuickSearch(DemoWindow* window);
     ~DemoQuickSearch() override;
 
+    /// The search box.
     ui::QuickSearchWidget* box() const { return m_box; }
     /// Reads the commands again, for instance after the ribbon's layout changed.
     void refresh();

@@ -13,6 +13,7 @@ class DemoViewCommands
     Q_DECLARE_TR_FUNCTIONS(DemoViewCommands)
 
 public:
+    /// Registers the category's commands in \a commands with their run and update handlers.
     static void registerCommands(DemoCommands& commands);
 
     /// The zoom levels of the range ViewZoomFirst..ViewZoomLast, in id order.

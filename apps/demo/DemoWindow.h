@@ -56,6 +56,7 @@ public:
     void removeDocument(DemoDocument* document);
 
     DemoFindBar* findBar() const { return m_findBar; }
+    /// The quick search box in the status bar.
     DemoQuickSearch* quickSearch() const { return m_quickSearch; }
     QToolBar* standardToolBar() const { return m_standardToolBar; }
     QToolBar* formatToolBar() const { return m_formatToolBar; }
