@@ -59,7 +59,7 @@ public:
 
     void forget()
     {
-        for (const QPointer<QMenu>& menu : qAsConst(m_watched)) {
+        for (const QPointer<QObject>& menu : qAsConst(m_watched)) {
             if (menu) {
                 menu->removeEventFilter(this);
                 disconnect(menu, nullptr, this, nullptr);
@@ -136,7 +136,9 @@ private:
     }
 
     QHash<const QAction*, Place> m_places;
-    QHash<const QMenu*, QPointer<QMenu>> m_watched;
+    // Held as QObject: forget() also runs from a menu's destroyed signal,
+    // when only its QWidget part is left.
+    QHash<const QMenu*, QPointer<QObject>> m_watched;
     bool m_learned = false;
 };
 
