@@ -297,7 +297,12 @@ qreal DemoDocument::currentPointSize() const
     const QTextCharFormat format = currentCharFormat();
     if (format.hasProperty(QTextFormat::FontPointSize))
         return format.fontPointSize();
-    return m_basePointSize;
+    // A heading scales the document's font, which the zoom has scaled too.
+    const qreal zoomed = document()->defaultFont().pointSizeF();
+    const qreal shown = format.font().pointSizeF();
+    if (zoomed <= 0 || shown <= 0)
+        return m_basePointSize;
+    return shown * m_basePointSize / zoomed;
 }
 
 void DemoDocument::insertTable(int rows, int columns)

@@ -60,7 +60,7 @@ public:
     void setParagraphAlignment(Qt::Alignment alignment);
     Qt::Alignment paragraphAlignment() const;
     void changeIndent(int delta);
-    /// The point size at the cursor.
+    /// The point size at the cursor, as at 100 % zoom.
     qreal currentPointSize() const;
 
     // Inserting.

@@ -104,6 +104,7 @@ private slots:
     void readOnlyDisablesEveryFontControl();
     void textColorNeverLooksPressed();
     void fontBoxesFollowTheCursorAndApply();
+    void fontSizeCountsHeadingsAndIgnoresZoom();
 };
 
 void tst_DemoRibbon::builtRibbon()
@@ -351,6 +352,40 @@ void tst_DemoRibbon::fontBoxesFollowTheCursorAndApply()
     probe.setPosition(2);
     QCOMPARE(probe.charFormat().fontPointSize(), 24.0);
     QCOMPARE(probe.charFormat().fontFamily(), QStringLiteral("DejaVu Sans Mono"));
+}
+
+void tst_DemoRibbon::fontSizeCountsHeadingsAndIgnoresZoom()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    auto* sizeBox = group(ribbon, QStringLiteral("Font"))
+                        ->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))
+                        ->findChild<QComboBox*>();
+    QVERIFY(sizeBox);
+
+    // Twice the body size: 22 pt, which the box does not list.
+    doc->setHtml(QStringLiteral("<h1>Title</h1><p>body</p>"));
+    QTextCursor cursor = doc->textCursor();
+    cursor.setPosition(2);
+    doc->setTextCursor(cursor);
+    QTRY_COMPARE(sizeBox->currentIndex(), -1);
+    QCOMPARE(doc->currentPointSize(), 22.0);
+    // Grow Font steps from the heading's size, not from the body's.
+    window.commands()->action(C::FormatGrowFont)->trigger();
+    QTextCursor probe(doc->document());
+    probe.setPosition(2);
+    QCOMPARE(probe.charFormat().fontPointSize(), 24.0);
+
+    // Zooming the document changes no size the user set.
+    cursor.setPosition(doc->document()->characterCount() - 2);
+    doc->setTextCursor(cursor);
+    doc->setZoom(200);
+    QCOMPARE(doc->currentPointSize(), 11.0);
+    QTRY_COMPARE(sizeBox->currentText(), QStringLiteral("11"));
 }
 
 QTEST_MAIN(tst_DemoRibbon)
