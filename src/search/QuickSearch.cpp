@@ -114,6 +114,11 @@ QSize QuickSearchWidget::sizeHint() const
 
 bool QuickSearchWidget::eventFilter(QObject* watched, QEvent* event)
 {
+    // A menu drops its active entry when the pointer leaves it, and on a
+    // display the popup opening away from the pointer is such a leave: the
+    // entry Return runs stays whatever the pointer does.
+    if (watched == m_popup && event->type() == QEvent::Leave)
+        return true;
     if (watched == m_popup && event->type() == QEvent::KeyPress) {
         auto* keyEvent = static_cast<QKeyEvent*>(event);
         switch (keyEvent->key()) {

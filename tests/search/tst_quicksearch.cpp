@@ -173,6 +173,7 @@ private Q_SLOTS:
     void navigationKeysStayWithPopup();
     void popupOpensWithFirstEntryActive();
     void returnAfterTypingRunsBestMatch();
+    void pointerLeavingPopupKeepsBestMatch();
     void boxClearedAfterEntryRuns();
     void escapeReachesBoxAndMenu();
     void escapeInBoxClearsItAndClosesPopup();
@@ -980,6 +981,41 @@ void tst_QuickSearch::returnAfterTypingRunsBestMatch()
     typeAsUser(QStringLiteral("reo"));
     QVERIFY(popup->isVisible());
     QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Enter);
+    QCOMPARE(reopenRan.count(), 1);
+    QCOMPARE(openRan.count(), 1);
+}
+
+// On a display, opening the popup away from the pointer sends it a Leave
+// event, on which a menu drops its active entry; the best match stays active,
+// and Return runs it.
+void tst_QuickSearch::pointerLeavingPopupKeepsBestMatch()
+{
+    SearchSource source;
+    QAction* reopen = source.add("Edit/Reopen");
+    QAction* open = source.add("File/Open");
+    BoxWindow w(source.actions());
+    QVERIFY(w.showFocused());
+    QSignalSpy openRan(open, &QAction::triggered);
+
+    typeAsUser(QStringLiteral("open"));
+    QMenu* popup = popupOf(*w.box);
+    QVERIFY(popup->isVisible());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(popup, &leave);
+    QCOMPARE(popup->activeAction(), popup->actions().first());
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Return);
+    QCOMPARE(openRan.count(), 1);
+    QVERIFY(!popup->isVisible());
+    QVERIFY(w.box->text().isEmpty());
+
+    // The pointer leaving after the user moved to another entry keeps that one.
+    QSignalSpy reopenRan(reopen, &QAction::triggered);
+    typeAsUser(QStringLiteral("open"));
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Down);
+    QCOMPARE(popup->activeAction(), popup->actions().at(1));
+    QApplication::sendEvent(popup, &leave);
+    QCOMPARE(popup->activeAction(), popup->actions().at(1));
+    QTest::keyClick(static_cast<QWidget*>(nullptr), Qt::Key_Return);
     QCOMPARE(reopenRan.count(), 1);
     QCOMPARE(openRan.count(), 1);
 }
