@@ -238,6 +238,11 @@ void DemoWindow::addDocument(DemoDocument* document)
     QMdiSubWindow* window = m_area->addSubWindow(document);
     window->setWindowIcon(IconPainter::icon(IconPainter::New));
     window->installEventFilter(new CloseThroughCommand(m_commands->files(), document, window));
+    // File › Close owns Ctrl+W: the sub-window's own Close would make it ambiguous.
+    if (QMenu* systemMenu = window->systemMenu()) {
+        for (QAction* action : systemMenu->actions())
+            action->setShortcuts({});
+    }
     const auto retitle = [this, document, window] {
         window->setWindowTitle(document->title() + (document->isModified() ? QStringLiteral(" *") : QString()));
         window->setToolTip(document->filePath());

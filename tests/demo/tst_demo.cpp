@@ -57,6 +57,7 @@ private slots:
     void triggeredWhileDisabledDoesNotRun();
     void pasteFollowsTheClipboard();
     void shortcutsReachTheCommands();
+    void closeShortcutClosesTheDocument();
     void keyboardCutIsANamedStep();
     void lineCommandsEditTheDocument();
     void saveAndReloadRoundTrip();
@@ -505,6 +506,23 @@ void tst_Demo::shortcutsReachTheCommands()
     QTest::keyClick(doc, Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(m_window->documents().size(), 2);
     QVERIFY(document() != doc);
+}
+
+// Ctrl+W is also the shortcut of each document tab's own Close; the
+// document's command must be the only one.
+void tst_Demo::closeShortcutClosesTheDocument()
+{
+    m_window->show();
+    QApplication::setActiveWindow(m_window.get());
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    DemoDocument* first = document();
+    m_window->commands()->files()->newDocument();
+    QCOMPARE(m_window->documents().size(), 2);
+    QTest::keyClick(document(), Qt::Key_W, Qt::ControlModifier);
+    QTRY_COMPARE(m_window->documents(), QList<DemoDocument*>{first});
+    first->setFocus();
+    QTest::keyClick(first, Qt::Key_W, Qt::ControlModifier);
+    QTRY_VERIFY(m_window->documents().isEmpty());
 }
 
 void tst_Demo::keyboardCutIsANamedStep()
