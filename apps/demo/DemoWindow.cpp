@@ -280,6 +280,10 @@ void DemoWindow::removeDocument(DemoDocument* document)
     m_area->removeSubWindow(window);
     window->hide();
     window->deleteLater();
+    // The area maximises the next tab only while the closed one is still
+    // there to hand it over; tabbed documents fill the area.
+    if (QMdiSubWindow* next = subWindowOf(activeDocument()))
+        next->showMaximized();
     onCurrentTabChanged();
 }
 

@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QFile>
 #include <QImage>
@@ -520,6 +521,10 @@ void tst_Demo::closeShortcutClosesTheDocument()
     QCOMPARE(m_window->documents().size(), 2);
     QTest::keyClick(document(), Qt::Key_W, Qt::ControlModifier);
     QTRY_COMPARE(m_window->documents(), QList<DemoDocument*>{first});
+    // The document left fills the area as the closed one did.
+    auto* firstWindow = qobject_cast<QMdiSubWindow*>(first->parentWidget());
+    QVERIFY(firstWindow);
+    QTRY_VERIFY(firstWindow->isMaximized());
     first->setFocus();
     QTest::keyClick(first, Qt::Key_W, Qt::ControlModifier);
     QTRY_VERIFY(m_window->documents().isEmpty());
