@@ -1,7 +1,5 @@
 #pragma once
 
-#include <tessaro/TessaroGlobal.h>
-
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -12,8 +10,8 @@ class QAction;
 namespace ui {
 
 /// The entries of a quick search box (proxy actions, in source order) and
-/// their ranking against the typed words. Exported for the benchmark only.
-class TESSARO_EXPORT QuickSearchIndex
+/// their ranking against the typed words.
+class QuickSearchIndex
 {
 public:
     /// Schedules every live proxy for deletion and forgets all entries.
