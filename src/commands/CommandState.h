@@ -11,10 +11,17 @@ namespace ui {
 /// A light view of one QAction handed to update handlers, so that they can
 /// refresh its enabled, checked and text state. Holds the pointer only; the
 /// action is not owned and must outlive the state.
+///
+/// @code
+/// registry->ConnectCommandUI(ID_SHOW_RULER, [ruler](ui::CommandState& state) {
+///     state.setChecked(ruler->isVisible());
+///     state.setText(ruler->isVisible() ? QStringLiteral("Hide Ruler") : QStringLiteral("Show Ruler"));
+/// });
+/// @endcode
 class TESSARO_EXPORT CommandState
 {
 public:
-    /// Wraps \a action (not owned).
+    /// Wraps @p action (not owned).
     explicit CommandState(QAction* action);
 
     /// Whether the action is enabled.

@@ -36,6 +36,16 @@ namespace ui {
 ///
 /// Create the registry on the GUI thread after the QApplication: it connects to
 /// the awake() signal of the thread's event dispatcher.
+///
+/// @code
+/// auto* commands = new ui::CommandsRegistry(&window);
+/// QAction* save = commands->addCommand(saveIcon, QStringLiteral("Save"), ID_SAVE);
+/// fileMenu->addAction(save);
+/// commands->ConnectCommand(ID_SAVE, [&document] { document.save(); });
+/// commands->ConnectCommandUI(ID_SAVE, [&document](ui::CommandState& state) {
+///     state.setEnabled(document.isModified());
+/// });
+/// @endcode
 class TESSARO_EXPORT CommandsRegistry : public QObject
 {
     Q_OBJECT
@@ -46,58 +56,58 @@ public:
     /// Releases the handler tables; the actions go with the registry's children.
     ~CommandsRegistry() override;
 
-    /// Creates an action for command \a id with \a icon and \a text (also its
+    /// Creates an action for command @p id with @p icon and @p text (also its
     /// icon text), connects it to the registry and appends it to the action list.
     /// Duplicate ids are accepted: the new action shares the handlers.
     QAction* addCommand(const QIcon& icon, const QString& text, int id);
     /// addCommand() without an icon.
     QAction* addCommand(const QString& text, int id);
-    /// addCommand() that also marks the action with the \c persistent property,
+    /// addCommand() that also marks the action with the @c persistent property,
     /// so that clearCommands() keeps it.
     QAction* addPersistentCommand(const QIcon& icon, const QString& text, int id);
     /// addPersistentCommand() without an icon.
     QAction* addPersistentCommand(const QString& text, int id);
 
-    /// Sets the run handler of the single command \a id.
+    /// Sets the run handler of the single command @p id.
     void ConnectCommand(int id, const std::function<void()>& handler);
-    /// Sets the run handler of the range \a first .. \a last (bounds in either
+    /// Sets the run handler of the range @p first .. @p last (bounds in either
     /// order, inclusive). A handler already set for exactly this range is replaced.
     /// The handler receives the id that was run.
     void ConnectCommand(int first, int last, const std::function<void(int)>& handler);
-    /// Sets the update handler of the single command \a id.
+    /// Sets the update handler of the single command @p id.
     void ConnectCommandUI(int id, const std::function<void(ui::CommandState&)>& handler);
-    /// Sets the update handler of the range \a first .. \a last (bounds in
+    /// Sets the update handler of the range @p first .. @p last (bounds in
     /// either order, inclusive), replacing one set for exactly this range.
     void ConnectCommandUI(int first, int last, const std::function<void(int, ui::CommandState&)>& handler);
-    /// Removes from both tables the range that serves \a id: the whole range
-    /// goes, even when \a id is only one id inside it.
+    /// Removes from both tables the range that serves @p id: the whole range
+    /// goes, even when @p id is only one id inside it.
     void DisconnectCommand(int id);
 
-    /// Takes the first action with \a id out of the action list and disconnects
+    /// Takes the first action with @p id out of the action list and disconnects
     /// it from the registry. The action is not deleted and the handlers stay.
     /// Safe in an update handler: see the class notes on refresh passes.
     void removeCommand(int id);
-    /// Deletes (later) every action without a \c persistent property. Handlers
+    /// Deletes (later) every action without a @c persistent property. Handlers
     /// stay. Safe in an update handler: see the class notes on refresh passes.
     void clearCommands();
 
-    /// Runs the handler of \a id now, on the calling thread. Ids below 1 and ids
+    /// Runs the handler of @p id now, on the calling thread. Ids below 1 and ids
     /// without a handler are ignored; exceptions from the handler pass through.
     void RunCommand(int id);
-    /// Runs the handler of \a id once control returns to the event loop.
+    /// Runs the handler of @p id once control returns to the event loop.
     void PostRunCommand(int id);
 
     /// The registry's actions, in creation order.
     QList<QAction*> getActions() const;
-    /// The first action of the list with command \a id, or null.
+    /// The first action of the list with command @p id, or null.
     QAction* getCommandAction(int id) const;
 
 protected:
     /// Runs the commands posted by PostRunCommand().
     bool event(QEvent* event) override;
-    /// Runs the command of \a action without checking whether it is enabled.
+    /// Runs the command of @p action without checking whether it is enabled.
     void runAction(QAction* action);
-    /// Calls the update handler of \a action, if its id has one.
+    /// Calls the update handler of @p action, if its id has one.
     void updateAction(QAction* action);
 
 private slots:

@@ -13,11 +13,11 @@ class MenuTreeModel;
 /// Reports the current command and double-clicks on it as QAction pointers.
 /// Categories and separators cannot become current, so they report nothing.
 ///
-/// \code
+/// @code
 /// MenuTreeWidget* tree = new MenuTreeWidget(parent, commandsMenu);
 /// QObject::connect(tree, &MenuTreeWidget::actionDoubleClicked,
 ///                  [](QAction* command) { /* add it somewhere */ });
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT MenuTreeWidget : public QTreeView
 {
     Q_OBJECT

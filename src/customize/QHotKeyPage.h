@@ -25,7 +25,7 @@ namespace ui {
 /// entries. It never writes a shortcut back to an action: read the edited
 /// table with shortcuts() and apply it yourself.
 ///
-/// \code
+/// @code
 /// ui::QHotKeyPage* page = new ui::QHotKeyPage(panel);   // fills panel
 /// page->setShortcuts(table);
 /// page->setAction(command);
@@ -33,7 +33,7 @@ namespace ui {
 /// const auto edited = page->shortcuts();
 /// for (auto it = edited.cbegin(); it != edited.cend(); ++it)
 ///     it.key()->setShortcuts(it.value());
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT QHotKeyPage : public QWidget
 {
     Q_OBJECT

@@ -48,7 +48,7 @@ namespace ui {
 /// ui::QCustomizeDlg it goes into getLayout(); the tab's left side, beside it
 /// across getSplitter(), is the place for the commands to choose from, for
 /// instance a MenuTreeWidget in place of getTreeWidget():
-/// \code
+/// @code
 /// ui::QToolBarPage* page = new ui::QToolBarPage;
 /// page->setToolBars(mainWindow->findChildren<QToolBar*>());
 /// dialog->getLayout()->addWidget(page);
@@ -66,7 +66,7 @@ namespace ui {
 /// for (QToolBar* toolBar : page->toolBars())
 ///     if (!toolBar->parent())
 ///         mainWindow->addToolBar(toolBar);
-/// \endcode
+/// @endcode
 /// The form's parts keep working wherever they are put: a host that wants the
 /// toolbar list itself on the tab's left side can move the page's child
 /// widget "toolBarPanel" (the list with its three buttons) there, for

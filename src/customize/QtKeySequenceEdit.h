@@ -12,6 +12,13 @@
 /// only when it does not already shape the typed character (Shift+A keeps it,
 /// Shift+1 typing "!" is stored as "!"). While the edit has focus, application
 /// shortcuts do not fire and key releases do nothing.
+///
+/// @code
+/// auto* edit = new QtKeySequenceEdit(dialog);
+/// QObject::connect(edit, &QLineEdit::textChanged, dialog, [edit, command] {
+///     command->setShortcut(edit->keySequence());   // the combination last pressed
+/// });
+/// @endcode
 class TESSARO_EXPORT QtKeySequenceEdit : public QLineEdit
 {
     Q_OBJECT

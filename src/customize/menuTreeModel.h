@@ -21,6 +21,14 @@ class QMenu;
 /// fills at run time; it is shown as a selectable leaf, like a command.
 /// Categories (non-dynamic submenus) and separators carry no item flags, so
 /// they can be neither selected nor made current.
+///
+/// @code
+/// auto* view = new QTreeView(dialog);
+/// auto* model = new MenuTreeModel(commandsMenu, view);
+/// view->setModel(model);
+/// view->expandAll();
+/// QAction* picked = MenuTreeModel::actionForIndex(view->currentIndex());
+/// @endcode
 class TESSARO_EXPORT MenuTreeModel : public QAbstractItemModel
 {
     Q_OBJECT

@@ -16,6 +16,13 @@ namespace ui {
 /// Makes a split group button show and trigger one chosen action of its
 /// default action's menu. It lives as a child of the button it serves and is
 /// installed as event filter on that menu; see setGroupButtonType().
+///
+/// @code
+/// ui::setGroupButtonType(group, pasteAction, ui::Dynamic);   // creates the handler
+/// QToolButton* button = ui::findActionButton(group, pasteAction);
+/// auto* handler = button->findChild<ui::DynamicGroupActionHandler*>();
+/// QAction* onFace = handler->currentAction();   // the menu command the face triggers
+/// @endcode
 class TESSARO_EXPORT DynamicGroupActionHandler : public QObject
 {
     Q_OBJECT

@@ -13,6 +13,15 @@ namespace ui {
 /// system button, a few quick access bar and system menu operations, and a
 /// translation context for the texts of a restored layout. It shows no
 /// context menu of its own.
+///
+/// @code
+/// auto* ribbon = new ui::RibbonBar(QStringLiteral("MyAppRibbon"), &window);
+/// window.setRibbonBar(ribbon);
+/// ribbon->addPage(QStringLiteral("Home"))->addGroup(QStringLiteral("Clipboard"))->addAction(pasteAction);
+/// ribbon->addQuickAction(saveAction);
+/// ribbon->setSystemButtonAction(fileMenu->menuAction());   // the File menu's text and entries
+/// ribbon->addPopupBarAction(exitAction);                   // along the system menu's bottom
+/// @endcode
 class TESSARO_EXPORT RibbonBar : public Qtitan::RibbonBar
 {
     Q_OBJECT

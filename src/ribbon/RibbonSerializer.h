@@ -31,6 +31,28 @@ class RibbonBar;
 /// plain theme names or compiled-in resources; any other icon is left out and
 /// costs nothing else, unless its length cannot be known (an icon engine of
 /// unknown layout), which ends the reading there.
+///
+/// @code
+/// class LayoutSerializer : public ui::RibbonSerializer
+/// {
+/// public:
+///     LayoutSerializer(ui::RibbonBar* ribbon, ui::CommandsRegistry* commands)
+///         : ui::RibbonSerializer(ribbon), m_commands(commands) {}
+/// protected:
+///     QString getActionID(QAction* action) override
+///     {
+///         const int id = action->data().toInt();
+///         return id > 0 ? QString::number(id) : QString();   // empty: stored by its text
+///     }
+///     QAction* getAction(const QString& id) const override { return m_commands->getCommandAction(id.toInt()); }
+/// private:
+///     ui::CommandsRegistry* m_commands;
+/// };
+///
+/// LayoutSerializer serializer(ribbon, commands);
+/// serializer.restore(settings.value(QStringLiteral("ribbon")).toByteArray());   // on start
+/// settings.setValue(QStringLiteral("ribbon"), serializer.save());              // on exit
+/// @endcode
 class TESSARO_EXPORT RibbonSerializer
 {
 public:

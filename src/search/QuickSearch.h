@@ -28,6 +28,12 @@ class QuickSearchIndex;
 ///
 /// For every searchable command the widget makes a proxy action that is a child
 /// of the real action, so an entry disappears by itself when its command dies.
+///
+/// @code
+/// auto* search = new ui::QuickSearchWidget(window.statusBar());
+/// window.statusBar()->addPermanentWidget(search);
+/// search->setSource({fileMenu->menuAction(), editMenu->menuAction()});   // again when the menus change
+/// @endcode
 class TESSARO_EXPORT QuickSearchWidget : public QLineEdit
 {
     Q_OBJECT

@@ -9,6 +9,12 @@ namespace ui {
 /// The document area of the main window: a tabbed QMdiArea with closable
 /// tabs along its bottom edge. Under a ribbon style its empty background
 /// is the ribbon's workspace.
+///
+/// @code
+/// auto* area = new ui::MdiArea(&window);
+/// window.setCentralWidget(area);
+/// area->addSubWindow(new QTextEdit)->showMaximized();   // one tab per document
+/// @endcode
 class TESSARO_EXPORT MdiArea : public QMdiArea
 {
 public:

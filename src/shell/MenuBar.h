@@ -16,6 +16,14 @@ class RightCornerWidget;
 /// The widget lays out a real QMenuBar and a corner tool bar side by side;
 /// the corner strip paints itself as the menu bar's empty area so that both
 /// read as a single bar. Put it in a window with QMainWindow::setMenuWidget().
+///
+/// @code
+/// auto* bar = new ui::MenuBar(&window);
+/// bar->addAction(fileMenu->menuAction());
+/// bar->addAction(viewMenu->menuAction());
+/// bar->addRightCornerAction(helpAction);   // a 16x16 tool button at the right end
+/// window.setMenuWidget(bar);
+/// @endcode
 class TESSARO_EXPORT MenuBar : public QWidget
 {
     Q_OBJECT

@@ -34,21 +34,30 @@ class QIODevice;
 ///
 /// Not thread-safe. Two storages on the same file do not see each other; the
 /// one destroyed last wins.
+///
+/// @code
+/// {
+///     KeyValueStorage settings(QDir(configDir).filePath(QStringLiteral("settings.dat")));
+///     window.restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray());
+///     // ... on the way out:
+///     settings.setValue(QStringLiteral("geometry"), window.saveGeometry());
+/// }   // the file is rewritten here
+/// @endcode
 class TESSARO_EXPORT KeyValueStorage : QObject
 {
 public:
-    /// Loads the store from the file \a fileName (empty if it cannot be read).
+    /// Loads the store from the file @p fileName (empty if it cannot be read).
     /// The file is rewritten on destruction if a value was set.
     KeyValueStorage(const QString& fileName, QObject* parent = nullptr);
-    /// Loads the store from \a data, which is overwritten on destruction if a
+    /// Loads the store from @p data, which is overwritten on destruction if a
     /// value was set: the array must outlive the storage.
     KeyValueStorage(QByteArray& data, QObject* parent = nullptr);
     /// Writes the store back if setValue() was called since it was loaded.
     ~KeyValueStorage() override;
 
-    /// The value stored under \a key, or \a defaultValue when there is none.
+    /// The value stored under @p key, or @p defaultValue when there is none.
     QVariant value(const QString& key, const QVariant& defaultValue = QVariant()) const;
-    /// Stores \a value under \a key. The store is written back on destruction
+    /// Stores @p value under @p key. The store is written back on destruction
     /// even if the value was already there.
     void setValue(const QString& key, const QVariant& value);
 

@@ -24,11 +24,11 @@ class RibbonBar;
 /// "Параметры" box with the parameter editor of the selected rows. Every
 /// change goes straight into the live quick access bar.
 ///
-/// \code
+/// @code
 /// auto* page = new QRibbonTreeQuickPanelWidget(tabs);
 /// page->updateModel(ribbon);          // shows the ribbon's quick access bar
 /// page->setMenuAction(pickedCommand); // whenever the dialog's pick changes
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT QRibbonTreeQuickPanelWidget : public QWidget
 {
     Q_OBJECT

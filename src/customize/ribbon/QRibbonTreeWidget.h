@@ -27,12 +27,12 @@ class RibbonBar;
 /// A selection always consists of siblings. The command to add comes from
 /// outside, usually the command picked in a MenuTreeWidget.
 ///
-/// \code
+/// @code
 /// QRibbonTreeWidget* editor = new QRibbonTreeWidget(page);
 /// editor->updateModel(ribbonBar);
 /// QObject::connect(menuTree, &MenuTreeWidget::currentActionChanged,
 ///                  editor, &QRibbonTreeWidget::setMenuAction);
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT QRibbonTreeWidget : public QWidget
 {
     Q_OBJECT

@@ -31,6 +31,17 @@ class RibbonBar;
 /// The base of the editors of ribbon tree items (RibbonTreeItem). It holds the
 /// selected items (not owned) and the owner's ribbon bar, and its
 /// paramChanged() signal reaches the owner's paramChanged() slot.
+///
+/// @code
+/// // What QRibbonTreeWidget does when the selection changes:
+/// AbstractEditor* editor = new GroupItemEditor(selectedItems, treeWidget);
+/// if (QWidget* widget = editor->editorWidget()) {
+///     editor->setParent(widget);   // the widget owns the editor
+///     parametersLayout->addWidget(widget);
+/// } else {
+///     delete editor;               // nothing to edit
+/// }
+/// @endcode
 class TESSARO_EXPORT AbstractEditor : public QObject
 {
     Q_OBJECT
@@ -78,6 +89,12 @@ protected:
 };
 
 /// Edits the name of the first item in a line edit of at most 50 characters.
+///
+/// @code
+/// auto* editor = new ItemNameEditor({model->item(index)}, treeWidget);
+/// QWidget* field = editor->editorWidget();   // a QLineEdit with the item's name
+/// editor->setParent(field);
+/// @endcode
 class TESSARO_EXPORT ItemNameEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -100,6 +117,13 @@ private:
 
 /// Chooses the button look of commands inside ribbon groups: icon only, text
 /// only, text beside or under the icon.
+///
+/// @code
+/// auto* editor = new ToolButtonStyleEditor(commandsInGroups, treeWidget);
+/// QWidget* box = editor->editorWidget();   // "Вид кнопки" with four radio buttons
+/// editor->setParent(box);
+/// editor->buttonClicked(Qt::ToolButtonTextUnderIcon);   // as if the user chose it
+/// @endcode
 class TESSARO_EXPORT ToolButtonStyleEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -125,6 +149,12 @@ private:
 };
 
 /// The editor of pages: a name field when one page is selected, nothing for several.
+///
+/// @code
+/// auto* editor = new PanelItemEditor({model->item(pageIndex)}, treeWidget);
+/// QWidget* widget = editor->editorWidget();   // null when several pages are selected
+/// editor->setParent(widget);
+/// @endcode
 class TESSARO_EXPORT PanelItemEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -139,6 +169,13 @@ public:
 
 /// The editor of groups: a name field when one group is selected, and the
 /// centering of the groups' controls.
+///
+/// @code
+/// auto* editor = new GroupItemEditor(selectedGroups, treeWidget);
+/// QWidget* widget = editor->editorWidget();   // name field (one group) and "Центровка"
+/// editor->setParent(widget);
+/// editor->centering(true);                    // as if the box were checked
+/// @endcode
 class TESSARO_EXPORT GroupItemEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -158,6 +195,12 @@ public slots:
 
 /// The editor of commands and dynamic commands: their button look when all
 /// of them stand in groups, nothing otherwise.
+///
+/// @code
+/// auto* editor = new ActionItemEditor(selectedCommands, treeWidget);
+/// QWidget* widget = editor->editorWidget();   // the button style box when all stand in groups
+/// editor->setParent(widget);
+/// @endcode
 class TESSARO_EXPORT ActionItemEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -172,6 +215,11 @@ public:
 };
 
 /// The editor of popup widget commands; it behaves as ActionItemEditor.
+///
+/// @code
+/// auto* editor = new PopupWidgetActionItemEditor(selectedCommands, treeWidget);
+/// editor->setParent(editor->editorWidget());
+/// @endcode
 class TESSARO_EXPORT PopupWidgetActionItemEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -186,6 +234,13 @@ public:
 
 /// The editor of group commands: the name of a single one and the kind of
 /// their buttons (ui::GroupButtonType).
+///
+/// @code
+/// auto* editor = new ActionGroupItemEditor(selectedGroupCommands, treeWidget);
+/// QWidget* widget = editor->editorWidget();   // name field and "Тип кнопки"
+/// editor->setParent(widget);
+/// editor->setDynamic(true);                   // as if "dynamic" were checked
+/// @endcode
 class TESSARO_EXPORT ActionGroupItemEditor : public AbstractEditor
 {
     Q_OBJECT
@@ -225,6 +280,14 @@ class QRibbonTreeQuickPanelWidget;
 /// with paramChanged(), which reaches the owner's paramChanged() slot. The
 /// owner makes the editor a child of its widget, so deleting the widget
 /// deletes the editor.
+///
+/// @code
+/// // What QRibbonTreeQuickPanelWidget does when the selection changes:
+/// QuickPanelAbstractEditor* editor = new QuickPanelActionGroupItemEditor(selectedItems, quickPage);
+/// QWidget* widget = editor->editorWidget();
+/// editor->setParent(widget);   // the widget owns the editor
+/// parametersLayout->addWidget(widget);
+/// @endcode
 class TESSARO_EXPORT QuickPanelAbstractEditor : public QObject
 {
     Q_OBJECT
@@ -258,6 +321,12 @@ protected:
 };
 
 /// Edits the name of the first item in a line edit of at most 50 characters.
+///
+/// @code
+/// auto* editor = new QuickPanelItemNameEditor({model->itemForIndex(index)}, quickPage);
+/// QWidget* field = editor->editorWidget();   // a QLineEdit with the item's name
+/// editor->setParent(field);
+/// @endcode
 class TESSARO_EXPORT QuickPanelItemNameEditor : public QuickPanelAbstractEditor
 {
     Q_OBJECT
@@ -277,6 +346,12 @@ public slots:
 /// Chooses the tool button style of the items' buttons on the quick access
 /// bar. The quick access editor never makes one: the bar gives its buttons
 /// their look.
+///
+/// @code
+/// auto* editor = new QuickPanelToolButtonStyleEditor(selectedItems, quickPage);
+/// editor->setParent(editor->editorWidget());
+/// editor->buttonClicked(Qt::ToolButtonIconOnly);   // as if the user chose it
+/// @endcode
 class TESSARO_EXPORT QuickPanelToolButtonStyleEditor : public QuickPanelAbstractEditor
 {
     Q_OBJECT
@@ -301,6 +376,11 @@ private:
 
 /// The editor of plain and dynamic commands of the quick access bar: they
 /// have no parameters, so its widget is empty.
+///
+/// @code
+/// auto* editor = new QuickPanelActionItemEditor(selectedItems, quickPage);
+/// editor->setParent(editor->editorWidget());   // an empty widget
+/// @endcode
 class TESSARO_EXPORT QuickPanelActionItemEditor : public QuickPanelAbstractEditor
 {
     Q_OBJECT
@@ -315,6 +395,11 @@ public:
 
 /// The editor of popup widget commands of the quick access bar; it behaves
 /// as QuickPanelActionItemEditor.
+///
+/// @code
+/// auto* editor = new QuickPanelPopupWidgetActionItemEditor(selectedItems, quickPage);
+/// editor->setParent(editor->editorWidget());   // an empty widget
+/// @endcode
 class TESSARO_EXPORT QuickPanelPopupWidgetActionItemEditor : public QuickPanelAbstractEditor
 {
     Q_OBJECT
@@ -330,6 +415,13 @@ public:
 
 /// The editor of group commands of the quick access bar: the name of a single
 /// group command (editable only while it is a simple one) and its button type.
+///
+/// @code
+/// auto* editor = new QuickPanelActionGroupItemEditor(selectedItems, quickPage);
+/// QWidget* widget = editor->editorWidget();   // name field and "Тип кнопки"
+/// editor->setParent(widget);
+/// editor->setDynamicLite(true);               // the face is always the first command
+/// @endcode
 class TESSARO_EXPORT QuickPanelActionGroupItemEditor : public QuickPanelAbstractEditor
 {
     Q_OBJECT

@@ -45,6 +45,12 @@ enum class QuickPanelItemType : int {
 /// at once. Children are created the first time they are asked for and kept
 /// in the item's child cache, which the item owns; every structural change of
 /// the wrapped object must therefore go through the item operations.
+///
+/// @code
+/// QuickPanelTreeItem* item = model->itemForIndex(view->currentIndex());
+/// if (item->type() == int(QuickPanelItemType::ActionGroup))
+///     qDebug() << item->name() << "opens" << item->childCount() << "commands";
+/// @endcode
 class TESSARO_EXPORT QuickPanelTreeItem
 {
 public:
@@ -110,6 +116,11 @@ private:
 /// The invisible root of the quick access tree: the quick access bar, whose
 /// visible actions are its children. Hidden actions of the bar are not rows,
 /// and every row number counts visible actions only.
+///
+/// @code
+/// auto* root = static_cast<QuickPanelRootItem*>(model->itemForIndex(QModelIndex()));
+/// QAction* first = root->visibleAction(0);   // the first visible action of the bar
+/// @endcode
 class TESSARO_EXPORT QuickPanelRootItem : public QuickPanelTreeItem
 {
 public:
@@ -147,6 +158,14 @@ private:
 };
 
 /// An action of the quick access bar or of a group command's menu.
+///
+/// @code
+/// const QModelIndex index = view->currentIndex();
+/// if (model->itemType(index) == int(QuickPanelItemType::ActionGroup)) {
+///     auto* item = static_cast<QuickActionItem*>(model->itemForIndex(index));
+///     item->setGroupButtonType(ui::Dynamic);   // the face shows the command last used
+/// }
+/// @endcode
 class TESSARO_EXPORT QuickActionItem : public QuickPanelTreeItem
 {
 public:
@@ -205,6 +224,13 @@ private:
 /// actions and, under each group command, the actions of its drop-down menu.
 /// Every edit goes straight into the live bar, its actions and their menus;
 /// the model keeps no copy. Removing a row never deletes the QAction.
+///
+/// @code
+/// auto* model = new RibbonQuickPanelTreeModel(ribbon, view);
+/// view->setModel(model);
+/// const QModelIndex group = model->addActionGroup(QModelIndex());   // at the end of the bar
+/// model->insertAction(group, copyAction);                           // into its menu
+/// @endcode
 class TESSARO_EXPORT RibbonQuickPanelTreeModel : public QAbstractItemModel
 {
 public:

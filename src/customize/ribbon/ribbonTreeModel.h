@@ -43,6 +43,12 @@ enum class RibbonItemType : int {
 /// goes through moveUp(), moveDown(), removeChild() and insertChild(), which
 /// change the ribbon and the list together, so that rows stay the positions
 /// of the children both in the ribbon object and in the list.
+///
+/// @code
+/// RibbonTreeItem* item = model->item(view->currentIndex());
+/// if (item->type() == int(RibbonItemType::Group))
+///     qDebug() << item->name() << "holds" << item->childCount() << "actions";
+/// @endcode
 class TESSARO_EXPORT RibbonTreeItem
 {
 public:
@@ -110,6 +116,11 @@ private:
 
 /// The root of the ribbon tree: the ribbon bar, whose children are its pages
 /// ("panels").
+///
+/// @code
+/// auto* root = static_cast<RootItem*>(model->item(QModelIndex()));   // the invisible root
+/// Qtitan::RibbonBar* shown = root->ribbonBar();
+/// @endcode
 class TESSARO_EXPORT RootItem : public RibbonTreeItem
 {
 public:
@@ -141,6 +152,14 @@ protected:
 };
 
 /// A page of the ribbon ("panel"), whose children are its groups.
+///
+/// @code
+/// const QModelIndex index = model->findAncestor(view->currentIndex(), int(RibbonItemType::Panel));
+/// if (index.isValid()) {
+///     auto* panel = static_cast<PanelItem*>(model->item(index));
+///     ribbon->setCurrentPageIndex(ribbon->pages().indexOf(panel->page()));   // show the page
+/// }
+/// @endcode
 class TESSARO_EXPORT PanelItem : public RibbonTreeItem
 {
 public:
@@ -172,6 +191,15 @@ protected:
 };
 
 /// A group of a ribbon page, whose children are its actions.
+///
+/// @code
+/// const QModelIndex index = model->findAncestor(view->currentIndex(), int(RibbonItemType::Group));
+/// if (index.isValid()) {
+///     auto* item = static_cast<GroupItem*>(model->item(index));
+///     item->group()->setControlsCentering(true);
+///     item->updateGroup();   // lays it out again, keeping its group commands' kinds
+/// }
+/// @endcode
 class TESSARO_EXPORT GroupItem : public RibbonTreeItem
 {
 public:
@@ -213,6 +241,15 @@ protected:
 
 /// An action: a command, a group command (whose children are the actions of
 /// its menu), a separator, a widget, popup widget or dynamic command.
+///
+/// @code
+/// const QModelIndex index = view->currentIndex();
+/// if (model->itemType(index) == int(RibbonItemType::Action)) {
+///     auto* item = static_cast<ActionItem*>(model->item(index));
+///     item->setIcon(starIcon);          // the live action's icon
+///     model->notifyChanged({index});    // repaint the row
+/// }
+/// @endcode
 class TESSARO_EXPORT ActionItem : public RibbonTreeItem
 {
 public:
@@ -271,12 +308,12 @@ private:
 /// not follow changes made to the ribbon elsewhere; reset it with
 /// setRibbonBar() then.
 ///
-/// \code
+/// @code
 /// RibbonTreeModel* model = new RibbonTreeModel(ribbonBar, view);
 /// view->setModel(model);
 /// QModelIndex group = model->addGroup(model->index(0, 0));  // a group on the first page
 /// model->insertAction(group, command);
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT RibbonTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
