@@ -17,6 +17,19 @@ const RibbonLook& lookOf(const CommonStyle& style);
 /// Base of every ribbon style. It draws standard Qt elements through the
 /// Fusion style, tinted with the ribbon's colour scheme, and the ribbon's
 /// own elements, among them the MDI workspace background.
+///
+/// Installed as the application style, it colours every window of the
+/// application; the families derived from it (Office2016Style and the others)
+/// add their shapes and themes.
+///
+/// @code
+/// QApplication app(argc, argv);
+/// app.setStyle(new Qtitan::CommonStyle);   // the application owns the style
+/// Qtitan::RibbonMainWindow window;
+/// window.setRibbonBar(new Qtitan::RibbonBar);
+/// window.ribbonBar()->addPage(QStringLiteral("Home"));
+/// window.show();
+/// @endcode
 class QTITAN_EXPORT CommonStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -36,14 +49,23 @@ public:
     /// The colour scheme of the current theme.
     virtual RibbonColors ribbonColors() const;
 
+    /// Fills the window, button, highlight, tool tip and link roles from the
+    /// colour scheme; the text and base roles of documents keep their colours.
     void polish(QPalette& palette) override;
+    /// Gives a tab bar whose style sheet paints light tabs dark text under a
+    /// dark scheme.
     void polish(QWidget* widget) override;
+    /// Takes back what polish(QWidget*) changed.
     void unpolish(QWidget* widget) override;
     using QProxyStyle::unpolish;
     /// Hands the application palette back to the next style if a theme change had set it.
     void unpolish(QApplication* application) override;
+    /// Draws the workspace, menu frames and auto-raise button panels in the
+    /// scheme's colours; everything else as Fusion does.
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
+    /// Draws menu items in the scheme's menu colours and lightens icons that
+    /// would vanish on a dark background.
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget = nullptr) const override;
 

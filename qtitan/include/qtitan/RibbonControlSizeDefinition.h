@@ -19,25 +19,48 @@ class RibbonControl;
 /// none) stacks it three to a column. The button's tool button style caps what
 /// shows: icon-only and text-beside-icon buttons never use the large image,
 /// icon-only buttons never show the label and text-only ones never the image.
+///
+/// @code
+/// using Size = Qtitan::RibbonControlSizeDefinition;
+/// Qtitan::RibbonControl* control = group->controlByAction(saveAction);
+/// control->sizeDefinition(Size::GroupSmall)->setLabelVisible(true);   // keep "Save" readable
+/// @endcode
 class QTITAN_EXPORT RibbonControlSizeDefinition : public QObject
 {
     Q_OBJECT
 public:
     /// The sizes a group takes as the ribbon narrows, largest first.
-    enum GroupSize { GroupLarge = 0, GroupMedium = 1, GroupSmall = 2, GroupPopup = 3 };
+    enum GroupSize {
+        GroupLarge = 0,  ///< the full size
+        GroupMedium = 1, ///< one step narrower
+        GroupSmall = 2,  ///< the narrowest size with controls in sight
+        GroupPopup = 3   ///< collapsed to one button; the controls show in a popup
+    };
     Q_ENUM(GroupSize)
-    enum ControlImageSize { ImageNone = 0, ImageLarge = 1, ImageSmall = 2 };
+    /// The image a control shows.
+    enum ControlImageSize {
+        ImageNone = 0,  ///< no image
+        ImageLarge = 1, ///< the 32 px image; the control fills the group's height
+        ImageSmall = 2  ///< the 16 px image; controls stack three to a column
+    };
     Q_ENUM(ControlImageSize)
 
+    /// Creates the definition of a control at a group size, with the defaults
+    /// listed above; a control creates its own four.
     RibbonControlSizeDefinition(RibbonControl* parent, GroupSize size);
     ~RibbonControlSizeDefinition() override;
 
+    /// The group size this definition is for.
     GroupSize groupSize() const;
 
+    /// The image the control shows at this group size.
     ControlImageSize imageSize() const;
+    /// Changes the image; changed() follows when it differs.
     void setImageSize(ControlImageSize size);
 
+    /// Whether the control shows its label at this group size.
     bool isLabelVisible() const;
+    /// Shows or hides the label; changed() follows when it differs.
     void setLabelVisible(bool visible);
 
 Q_SIGNALS:
