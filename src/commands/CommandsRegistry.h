@@ -70,13 +70,13 @@ public:
 
     /// Sets the run handler of the single command @p id.
     void ConnectCommand(int id, const std::function<void()>& handler);
-    /// Sets the run handler of the range @p first .. @p last (bounds in either
+    /// Sets the run handler of the ids from @p first to @p last (bounds in either
     /// order, inclusive). A handler already set for exactly this range is replaced.
     /// The handler receives the id that was run.
     void ConnectCommand(int first, int last, const std::function<void(int)>& handler);
     /// Sets the update handler of the single command @p id.
     void ConnectCommandUI(int id, const std::function<void(ui::CommandState&)>& handler);
-    /// Sets the update handler of the range @p first .. @p last (bounds in
+    /// Sets the update handler of the ids from @p first to @p last (bounds in
     /// either order, inclusive), replacing one set for exactly this range.
     void ConnectCommandUI(int first, int last, const std::function<void(int, ui::CommandState&)>& handler);
     /// Removes from both tables the range that serves @p id: the whole range
