@@ -1,6 +1,8 @@
 #include <tessaro/QHotKeyPage.h>
 #include <tessaro/QtKeySequenceEdit.h>
 
+#include "common/faketranslator.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QFile>
@@ -13,25 +15,11 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
-#include <QTranslator>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
-
-class ContextTranslator : public QTranslator
-{
-public:
-    mutable QStringList contexts;
-    QString translate(const char* context, const char* sourceText, const char* = nullptr,
-                      int = -1) const override
-    {
-        contexts << QString::fromUtf8(context);
-        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 using Table = ui::QHotKeyPage::ShortcutTable;
 
@@ -232,7 +220,7 @@ void TestHotKeyPage::formTexts()
 
 void TestHotKeyPage::formTranslatedInFormContext()
 {
-    ContextTranslator translator;
+    testcommon::FakeTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     PageFixture f;
     QCoreApplication::removeTranslator(&translator);

@@ -1,6 +1,8 @@
 #include <tessaro/MenuTreeWidget.h>
 #include <tessaro/menuTreeModel.h>
 
+#include "common/faketranslator.h"
+
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
@@ -11,22 +13,8 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
 
 namespace {
-
-// Answers every lookup with a marker that names the context, so the test can
-// see under which context a text was looked up.
-class ContextTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* sourceText, const char* = nullptr,
-                      int = -1) const override
-    {
-        return QStringLiteral("[%1]%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
-    }
-    bool isEmpty() const override { return false; }
-};
 
 const QString separatorText = QStringLiteral("< Р А З Д Е Л И Т Е Л Ь >");
 
@@ -533,7 +521,7 @@ void TestMenuTree::parentOfRemovedActionIsInvalid()
 void TestMenuTree::separatorTranslatedInFileContext()
 {
     Fixture f;
-    ContextTranslator translator;
+    testcommon::FakeTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     MenuTreeModel model(&f.root);
     const QString text = model.data(model.index(2, 0, model.index(0, 0))).toString();

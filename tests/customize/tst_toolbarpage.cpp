@@ -3,6 +3,8 @@
 #include <tessaro/QToolBarPage.h>
 #include <tessaro/menuTreeModel.h>
 
+#include "common/testicons.h"
+
 #include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
@@ -28,6 +30,8 @@
 #include <memory>
 
 namespace {
+
+using testcommon::colorIcon;
 
 const QString groupText = QString::fromUtf8("Группа команд");
 const QString separatorText = QStringLiteral("-------------");
@@ -85,13 +89,6 @@ QString describe(const QTreeWidget* tree)
     return parts.join(QLatin1Char('|'));
 }
 
-QIcon colourIcon(const QColor& colour)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(colour);
-    return QIcon(pixmap);
-}
-
 QAction* command(QMenu* category, const QString& text, int id)
 {
     QAction* action = category->addAction(text);
@@ -140,7 +137,7 @@ struct Fixture
     {
         QMenu* file = commandsMenu.addMenu(QStringLiteral("Файл"));
         open = command(file, QStringLiteral("&Открыть"), 1);
-        open->setIcon(colourIcon(Qt::red));
+        open->setIcon(colorIcon(Qt::red));
         save = command(file, QStringLiteral("Сохранить"), 2);
         file->addSeparator();
         close = command(file, QStringLiteral("Закрыть"), 6);

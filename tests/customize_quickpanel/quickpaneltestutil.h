@@ -6,6 +6,8 @@
 
 #include <tessaro/Tessaro.h>
 
+#include "common/testicons.h"
+
 #include <QtitanRibbon.h>
 
 #include <QAction>
@@ -17,19 +19,8 @@
 
 namespace quicktest {
 
-inline QIcon colorIcon(const QColor& color)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(color);
-    return QIcon(pixmap);
-}
-
-inline QRgb iconColor(const QIcon& icon)
-{
-    if (icon.isNull())
-        return 0;
-    return icon.pixmap(16, 16).toImage().pixel(4, 4);
-}
+using testcommon::colorIcon;
+using testcommon::iconColor;
 
 inline bool isSet(const QAction* action, const char* property)
 {

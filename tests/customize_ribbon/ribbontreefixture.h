@@ -14,6 +14,8 @@
 
 #include <tessaro/Tessaro.h>
 
+#include "common/testicons.h"
+
 #include <QtitanRibbon.h>
 
 #include <QAbstractItemModel>
@@ -25,23 +27,8 @@
 
 namespace fixture {
 
-inline QIcon colorIcon(const QColor& color)
-{
-    QIcon icon;
-    for (int size : {16, 32}) {
-        QPixmap pixmap(size, size);
-        pixmap.fill(color);
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
-
-inline QRgb iconColor(const QIcon& icon)
-{
-    if (icon.isNull())
-        return 0;
-    return icon.pixmap(16, 16).toImage().pixel(4, 4);
-}
+using testcommon::colorIcon;
+using testcommon::iconColor;
 
 inline QString display(const QAbstractItemModel& model, const QModelIndex& index)
 {

@@ -7,6 +7,8 @@
 // old one.
 #include <tessaro/Tessaro.h>
 
+#include "common/testicons.h"
+
 #include <QtitanRibbon.h>
 
 #include <QAbstractItemModelTester>
@@ -33,13 +35,6 @@ const QString separatorText = QStringLiteral("< Р А З Д Е Л И Т Е Л Ь
 const QString dynamicText = QStringLiteral("< Динамическая группа >");
 constexpr int hostCommandCount = 40;
 constexpr int editsWanted = 1000;
-
-QIcon colorIcon(int hue)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(QColor::fromHsv(hue % 360, 200, 200));
-    return QIcon(pixmap);
-}
 
 // Host commands stored by object name, as a host's serializer stores its
 // registry's commands.
@@ -166,7 +161,7 @@ void tst_RibbonTreeRandomEdits::buildRibbon()
     m_host = std::make_unique<QObject>();
     m_commands.clear();
     for (int i = 0; i < hostCommandCount; ++i) {
-        auto* command = new QAction(colorIcon(i * 37), QStringLiteral("Command &%1").arg(i), m_host.get());
+        auto* command = new QAction(testcommon::colorIcon(QColor::fromHsv(i * 37 % 360, 200, 200)), QStringLiteral("Command &%1").arg(i), m_host.get());
         command->setObjectName(QStringLiteral("cmd%1").arg(i));
         m_commands << command;
     }

@@ -5,6 +5,8 @@
 
 #include <tessaro/Tessaro.h>
 
+#include "common/testicons.h"
+
 #include <QAction>
 #include <QBuffer>
 #include <QDataStream>
@@ -13,6 +15,9 @@
 #include <QPixmap>
 
 namespace testutil {
+
+using testcommon::colorIcon;
+using testcommon::iconColor;
 
 // One action record of the stream, as the test expects it.
 struct Record
@@ -93,18 +98,6 @@ struct Writer
         return *this;
     }
 };
-
-inline QIcon colorIcon(const QColor& color, int size = 16)
-{
-    QPixmap pixmap(size, size);
-    pixmap.fill(color);
-    return QIcon(pixmap);
-}
-
-inline QRgb iconColor(const QIcon& icon)
-{
-    return icon.pixmap(16, 16).toImage().pixel(4, 4);
-}
 
 // Maps host actions to "cmd.<objectName>" identifiers and back.
 class IdSerializer : public ui::RibbonSerializer

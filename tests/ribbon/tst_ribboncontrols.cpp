@@ -1,5 +1,7 @@
 #include <tessaro/Tessaro.h>
 
+#include "common/testicons.h"
+
 #include <QtitanRibbon.h>
 
 #include <QAction>
@@ -12,6 +14,9 @@
 #include <QtTest>
 
 namespace {
+
+using testcommon::colorIcon;
+using testcommon::iconColor;
 
 // Counts the layout requests a widget receives, and whether they came while
 // the test was still inside the call (sent) or later (posted).
@@ -39,18 +44,6 @@ QAction* addSeparator(QWidget* container)
     separator->setSeparator(true);
     container->addAction(separator);
     return separator;
-}
-
-QIcon colorIcon(const QColor& color)
-{
-    QPixmap pixmap(16, 16);
-    pixmap.fill(color);
-    return QIcon(pixmap);
-}
-
-QRgb iconColor(const QIcon& icon)
-{
-    return icon.pixmap(16, 16).toImage().pixel(4, 4);
 }
 
 // A stand-alone group button: a tool button whose default action carries a menu.

@@ -1,3 +1,4 @@
+#include "common/faketranslator.h"
 #include "ribbontestutil.h"
 
 #include <QtitanRibbon.h>
@@ -5,7 +6,6 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QToolButton>
-#include <QTranslator>
 #include <QWidgetAction>
 #include <QtTest>
 
@@ -80,29 +80,6 @@ QToolButton* quickButton(Qtitan::RibbonQuickAccessBar* bar, QAction* action)
 {
     return qobject_cast<QToolButton*>(bar->widgetForAction(action));
 }
-
-// Translates texts of one context, to see that restored texts go through it.
-class FakeTranslator : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* sourceText, const char* disambiguation,
-                      int n) const override
-    {
-        Q_UNUSED(disambiguation)
-        Q_UNUSED(n)
-        if (qstrcmp(context, "HostRibbon") != 0)
-            return QString();
-        const QString source = QString::fromUtf8(sourceText);
-        if (source == QStringLiteral("Главная"))
-            return QStringLiteral("Home");
-        if (source == QStringLiteral("Буфер"))
-            return QStringLiteral("Clipboard");
-        if (source == QStringLiteral("Вставить"))
-            return QStringLiteral("Paste");
-        return QString();
-    }
-};
 
 } // namespace
 
@@ -794,8 +771,11 @@ void tst_RibbonSerializer::versionFourWithLargeIcons()
 
 void tst_RibbonSerializer::translatesStoredTexts()
 {
-    FakeTranslator translator;
-    QCoreApplication::installTranslator(&translator);
+    testcommon::FakeTranslator translator(testcommon::FakeTranslator::OnlyAddedTexts);
+    translator.add(QStringLiteral("HostRibbon"), QStringLiteral("Главная"), QStringLiteral("Home"));
+    translator.add(QStringLiteral("HostRibbon"), QStringLiteral("Буфер"), QStringLiteral("Clipboard"));
+    translator.add(QStringLiteral("HostRibbon"), QStringLiteral("Вставить"), QStringLiteral("Paste"));
+    QVERIFY(QCoreApplication::installTranslator(&translator));
     Writer w;
     w << qint32(5) << qint32(1) << QStringLiteral("Главная") << qint32(1);
     w << QStringLiteral("Буфер") << false << false << qint32(2);

@@ -1,6 +1,7 @@
 #include <tessaro/CommandsRegistry.h>
 #include <tessaro/QuickSearch.h>
 
+#include "common/faketranslator.h"
 #include "searchsource.h"
 
 #include <QAction>
@@ -13,7 +14,6 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QStyle>
-#include <QTranslator>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -42,25 +42,6 @@ protected:
         focusReason = event->reason();
         QuickSearchWidget::focusInEvent(event);
     }
-};
-
-// Answers every text of one translation context with a marker.
-class ContextTranslator : public QTranslator
-{
-public:
-    explicit ContextTranslator(const char* context) : m_context(context) {}
-
-    QString translate(const char* context, const char* sourceText, const char*, int) const override
-    {
-        if (qstrcmp(context, m_context) == 0)
-            return QStringLiteral("[%1]").arg(QString::fromUtf8(sourceText));
-        return QString();
-    }
-
-    bool isEmpty() const override { return false; }
-
-private:
-    const char* m_context;
 };
 
 QMenu* popupOf(QuickSearchWidget& box)
@@ -197,11 +178,11 @@ void tst_QuickSearch::placeholderText()
 
 void tst_QuickSearch::placeholderTranslatedInFileContext()
 {
-    ContextTranslator translator("QuickSearch.cpp");
+    testcommon::FakeTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QuickSearchWidget box(nullptr);
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(box.placeholderText(), QStringLiteral("[Поиск: Команда (Ctrl + Q)]"));
+    QCOMPARE(box.placeholderText(), QStringLiteral("[QuickSearch.cpp]Поиск: Команда (Ctrl + Q)"));
 }
 
 void tst_QuickSearch::sizeHintAndPolicy()

@@ -1,31 +1,13 @@
 #include <tessaro/DockListMenu.h>
 
+#include "common/faketranslator.h"
+
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QToolBar>
-#include <QTranslator>
 #include <QtTest>
 
 namespace {
-
-// Answers one text in one context, to see which context a text is looked up in.
-class ContextTranslator : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* sourceText, const char* disambiguation,
-                      int n) const override
-    {
-        Q_UNUSED(n)
-        lookups.append(QString::fromUtf8(context));
-        if (qstrcmp(context, "DockListMenu.cpp") == 0 && disambiguation == nullptr
-            && QString::fromUtf8(sourceText) == QStringLiteral("Панели"))
-            return QStringLiteral("Panels");
-        return QString();
-    }
-    bool isEmpty() const override { return false; }
-
-    mutable QStringList lookups;
-};
 
 void openAndClose(QMenu* menu)
 {
@@ -72,13 +54,14 @@ void tst_DockListMenu::titleAndParent()
 
 void tst_DockListMenu::titleTranslatedInSourceFileContext()
 {
-    ContextTranslator translator;
+    testcommon::FakeTranslator translator(testcommon::FakeTranslator::OnlyAddedTexts);
+    translator.add(QStringLiteral("DockListMenu.cpp"), QStringLiteral("Панели"), QStringLiteral("Panels"));
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QMainWindow window;
     ui::DockListMenu menu(&window);
     QCoreApplication::removeTranslator(&translator);
     QCOMPARE(menu.title(), QStringLiteral("Panels"));
-    QVERIFY(translator.lookups.contains(QStringLiteral("DockListMenu.cpp")));
+    QVERIFY(translator.contexts().contains(QStringLiteral("DockListMenu.cpp")));
 }
 
 void tst_DockListMenu::docksListedInCreationOrder()

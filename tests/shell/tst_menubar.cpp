@@ -1,5 +1,7 @@
 #include <tessaro/MenuBar.h>
 
+#include "common/testicons.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QLayout>
@@ -14,6 +16,8 @@
 #include <QtTest>
 
 namespace {
+
+using testcommon::colorIcon;
 
 // Paints the menu bar's empty area in a colour nothing else uses, so that
 // a grab shows who painted what.
@@ -47,13 +51,6 @@ public:
     mutable QRect lastMenuRect;
     mutable QStyle::State lastState;
 };
-
-QIcon colourIcon(const QColor& colour)
-{
-    QPixmap pixmap(32, 32);
-    pixmap.fill(colour);
-    return QIcon(pixmap);
-}
 
 } // namespace
 
@@ -105,8 +102,8 @@ void tst_MenuBar::cornerActionsAreSmallToolButtons()
     QMenu file(QStringLiteral("File"));
     file.addAction(QStringLiteral("Open"));
     bar.addAction(file.menuAction());
-    QAction tile(colourIcon(Qt::red), QStringLiteral("Tile"), nullptr);
-    QAction help(colourIcon(Qt::blue), QStringLiteral("Help"), nullptr);
+    QAction tile(colorIcon(Qt::red), QStringLiteral("Tile"), nullptr);
+    QAction help(colorIcon(Qt::blue), QStringLiteral("Help"), nullptr);
     bar.addRightCornerAction(&tile);
     bar.addRightCornerAction(&help);
     bar.resize(400, bar.sizeHint().height());
@@ -143,7 +140,7 @@ void tst_MenuBar::cornerActionsAreSmallToolButtons()
 void tst_MenuBar::cornerStripHasNoHandleOrFrame()
 {
     ui::MenuBar bar;
-    QAction first(colourIcon(Qt::red), QStringLiteral("First"), nullptr);
+    QAction first(colorIcon(Qt::red), QStringLiteral("First"), nullptr);
     bar.addRightCornerAction(&first);
     bar.resize(300, bar.sizeHint().height());
     bar.show();
@@ -160,7 +157,7 @@ void tst_MenuBar::cornerStripHasNoHandleOrFrame()
 void tst_MenuBar::cornerStripKeepsZeroMarginsAfterStyleChange()
 {
     ui::MenuBar bar;
-    QAction action(colourIcon(Qt::red), QStringLiteral("A"), nullptr);
+    QAction action(colorIcon(Qt::red), QStringLiteral("A"), nullptr);
     bar.addRightCornerAction(&action);
     auto* strip = bar.findChild<QToolBar*>();
     QVERIFY(strip);
@@ -197,7 +194,7 @@ void tst_MenuBar::cornerStripPaintsMenuBarEmptyArea()
     QApplication::setStyle(style);
 
     ui::MenuBar bar;
-    QAction action(colourIcon(Qt::green), QStringLiteral("A"), nullptr);
+    QAction action(colorIcon(Qt::green), QStringLiteral("A"), nullptr);
     bar.addRightCornerAction(&action);
     bar.resize(300, 30);
     bar.show();
@@ -242,7 +239,7 @@ void tst_MenuBar::clearKeepsCornerButtons()
     QMenu window(QStringLiteral("Window"));
     bar.addAction(file.menuAction());
     bar.addAction(window.menuAction());
-    QAction close(colourIcon(Qt::red), QStringLiteral("Close"), nullptr);
+    QAction close(colorIcon(Qt::red), QStringLiteral("Close"), nullptr);
     bar.addRightCornerAction(&close);
     bar.resize(400, 30);
     bar.show();
