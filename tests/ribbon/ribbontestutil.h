@@ -5,10 +5,10 @@
 
 #include <tessaro/Tessaro.h>
 
+#include "common/streams.h"
 #include "common/testicons.h"
 
 #include <QAction>
-#include <QBuffer>
 #include <QDataStream>
 #include <QHash>
 #include <QIcon>
@@ -71,26 +71,9 @@ inline void writeRecord(QDataStream& stream, const Record& record)
         writeRecord(stream, sub);
 }
 
-// A stream under construction, with the serializer's default stream settings.
-struct Writer
+// A layout stream under construction, with the serializer's default stream settings.
+struct Writer : testcommon::StreamWriter
 {
-    QByteArray bytes;
-    QBuffer buffer{&bytes};
-    QDataStream stream;
-
-    Writer()
-    {
-        buffer.open(QIODevice::WriteOnly);
-        stream.setDevice(&buffer);
-    }
-
-    template <typename T>
-    Writer& operator<<(const T& value)
-    {
-        stream << value;
-        return *this;
-    }
-
     Writer& entry(qint32 style, qint8 type, const Record& record)
     {
         stream << style << type;

@@ -257,7 +257,7 @@ void tst_RibbonSerializerHostile::deepMenuNesting()
         w << qint32(5) << qint32(2) << QStringLiteral("П") << qint32(2);
         w << QStringLiteral("Г") << false << false << qint32(2);
         w << qint32(0) << qint8(0);
-        w.buffer.write(nestedRecords(depth));
+        w.raw(nestedRecords(depth));
         w.entry(0, 0, Record::plain(QStringLiteral("после")));
         w << QStringLiteral("Вторая") << false << false << qint32(0);
         w << QStringLiteral("Стр 2") << qint32(0);
@@ -276,7 +276,7 @@ void tst_RibbonSerializerHostile::deepMenuNesting()
                 e << qint32(5) << qint32(2) << QStringLiteral("П") << qint32(2);
                 e << QStringLiteral("Г") << false << false << qint32(2);
                 e << qint32(0) << qint8(0);
-                e.buffer.write(nestedRecords(depth));
+                e.raw(nestedRecords(depth));
                 e.entry(0, 0, Record::plain(QStringLiteral("после")));
                 e << QStringLiteral("Вторая") << false << false << qint32(0);
                 e << QStringLiteral("Стр 2") << qint32(0);
@@ -292,7 +292,7 @@ void tst_RibbonSerializerHostile::deepNestingOnQuickBar()
     Writer w;
     w << qint32(5) << qint32(2);
     w << qint32(0) << qint8(1);
-    w.buffer.write(nestedRecords(100000));
+    w.raw(nestedRecords(100000));
     w.entry(0, 0, Record::plain(QStringLiteral("после")));
     QVERIFY(serializer.restoreQuickBar(qCompress(w.bytes)));
     const QList<QAction*> actions = ribbon.quickAccessBar()->actions();
@@ -383,31 +383,6 @@ void tst_RibbonSerializerHostile::itemBudget()
 
 namespace {
 
-QByteArray pngChunk(const QByteArray& type, const QByteArray& data)
-{
-    QByteArray chunk;
-    QDataStream s(&chunk, QIODevice::WriteOnly);
-    s << quint32(data.size());
-    s.writeRawData(type.constData(), 4);
-    s.writeRawData(data.constData(), data.size());
-    s << quint32(0);
-    return chunk;
-}
-
-// A well-formed PNG file whose header claims @p width x @p height pixels
-// over a token of image data that does not decode.
-QByteArray pngClaiming(quint32 width, quint32 height)
-{
-    QByteArray header;
-    QDataStream hs(&header, QIODevice::WriteOnly);
-    hs << width << height << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0);
-    QByteArray png("\x89PNG\r\n\x1a\n", 8);
-    png += pngChunk("IHDR", header);
-    png += pngChunk("IDAT", QByteArray(64, 'x'));
-    png += pngChunk("IEND", QByteArray());
-    return png;
-}
-
 // A PNG file of a red image, as Qt writes it.
 QByteArray realPng(int width, int height)
 {
@@ -425,7 +400,7 @@ QByteArray pixmapIconWith(const QByteArray& png)
 {
     Writer icon;
     icon << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
-    icon.buffer.write(png);
+    icon.raw(png);
     icon << QString() << QSize(16, 16) << quint32(0) << quint32(0);
     return icon.bytes;
 }
@@ -449,7 +424,7 @@ QByteArray oldStreamWithIcon(const QByteArray& iconBytes)
     w << qint32(4) << qint32(1) << QStringLiteral("П") << qint32(1);
     w << QStringLiteral("Г") << QIcon() << false << false << qint32(2);
     w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("с иконкой");
-    w.buffer.write(iconBytes);
+    w.raw(iconBytes);
     w << qint32(0);
     w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("вторая") << QIcon() << qint32(0);
     return w.bytes;
@@ -467,14 +442,14 @@ void tst_RibbonSerializerHostile::refusedIconsCostOnlyThemselves_data()
     themePath << QStringLiteral("QIconLoaderEngine") << QStringLiteral("../../../etc/passwd");
     Writer badMode;
     badMode << QStringLiteral("QPixmapIconEngine") << qint32(1) << qint32(1);
-    badMode.buffer.write(realPng(8, 8));
+    badMode.raw(realPng(8, 8));
     badMode << QString() << QSize(8, 8) << quint32(9) << quint32(0);
 
-    QTest::newRow("30000 x 30000 pixels") << pixmapIconWith(pngClaiming(30000, 30000));
-    QTest::newRow("32769 pixels wide") << pixmapIconWith(pngClaiming(32769, 1));
-    QTest::newRow("4097 x 4096 pixels") << pixmapIconWith(pngClaiming(4097, 4096));
-    QTest::newRow("no pixels") << pixmapIconWith(pngClaiming(0, 16));
-    QTest::newRow("image data that does not decode") << pixmapIconWith(pngClaiming(8, 8));
+    QTest::newRow("30000 x 30000 pixels") << pixmapIconWith(testcommon::pngClaimingSize(30000, 30000, 64));
+    QTest::newRow("32769 pixels wide") << pixmapIconWith(testcommon::pngClaimingSize(32769, 1, 64));
+    QTest::newRow("4097 x 4096 pixels") << pixmapIconWith(testcommon::pngClaimingSize(4097, 4096, 64));
+    QTest::newRow("no pixels") << pixmapIconWith(testcommon::pngClaimingSize(0, 16, 64));
+    QTest::newRow("image data that does not decode") << pixmapIconWith(testcommon::pngClaimingSize(8, 8, 64));
     QTest::newRow("a file path") << fileName.bytes;
     QTest::newRow("a theme name with a path") << themePath.bytes;
     QTest::newRow("an unknown icon mode") << badMode.bytes;
@@ -496,15 +471,15 @@ void tst_RibbonSerializerHostile::refusedIconsCostOnlyThemselves()
     Writer w;
     w << qint32(4) << qint32(2) << QStringLiteral("Первая") << qint32(2);
     w << QStringLiteral("Группа");
-    w.buffer.write(icon);
+    w.raw(icon);
     w << true << false << qint32(3);
     w << qint32(2) << qint8(0) << false << QString() << QStringLiteral("Меню");
-    w.buffer.write(icon);
+    w.raw(icon);
     w << qint32(2);
     w << false << QString() << QStringLiteral("Пункт") << colorIcon(Qt::green) << qint32(0);
     w << true;
     w << qint32(0) << qint8(0) << false << QStringLiteral("cmd.known") << QStringLiteral("x") << true;
-    w.buffer.write(icon);
+    w.raw(icon);
     w << qint32(0);
     w << qint32(0) << qint8(0) << false << QString() << QStringLiteral("После") << colorIcon(Qt::blue) << qint32(0);
     w << QStringLiteral("Вторая") << colorIcon(Qt::yellow) << false << false << qint32(0);
@@ -541,7 +516,7 @@ void tst_RibbonSerializerHostile::refusedIconOnQuickBar()
     Writer q;
     q << qint32(4) << qint32(2);
     q << qint32(0) << qint8(0) << false << QString() << QStringLiteral("Первая");
-    q.buffer.write(svgEngineIcon());
+    q.raw(svgEngineIcon());
     q << qint32(0);
     q << qint32(0) << qint8(0) << false << QString() << QStringLiteral("Вторая") << colorIcon(Qt::blue) << qint32(0);
     QVERIFY(restoreQuick(serializer, q.bytes));
@@ -561,7 +536,7 @@ void tst_RibbonSerializerHostile::iconWithoutEndStopsReading_data()
     unknownEngine << QStringLiteral("MyIconEngine") << QByteArray(100, 'x');
     QTest::newRow("chunk longer than the data") << pixmapIconWith(longChunk);
     QTest::newRow("not a PNG file") << pixmapIconWith(QByteArray("P6 20000 20000 255\n"));
-    QTest::newRow("first chunk not a header") << pixmapIconWith(QByteArray("\x89PNG\r\n\x1a\n", 8) + pngChunk("IDAT", "x"));
+    QTest::newRow("first chunk not a header") << pixmapIconWith(QByteArray("\x89PNG\r\n\x1a\n", 8) + testcommon::pngChunk("IDAT", "x"));
     QTest::newRow("an engine of unknown layout") << unknownEngine.bytes;
 }
 

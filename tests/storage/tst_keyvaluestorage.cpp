@@ -1,5 +1,7 @@
 #include <tessaro/KeyValueStorage.h>
 
+#include "common/streams.h"
+
 #include <QBitArray>
 #include <QBrush>
 #include <QCborArray>
@@ -655,18 +657,7 @@ private slots:
             return bytes;
         };
         // A PNG header claiming 30000 x 30000 pixels.
-        QByteArray png("\x89PNG\r\n\x1a\n", 8);
-        {
-            QDataStream out(&png, QIODevice::Append);
-            out << quint32(13);
-            out.writeRawData("IHDR", 4);
-            out << quint32(30000) << quint32(30000) << quint8(8) << quint8(6) << quint8(0) << quint8(0) << quint8(0)
-                << quint32(0);
-            out << quint32(0);
-            out.writeRawData("IEND", 4);
-            out << quint32(0);
-        }
-        QTest::newRow("huge png") << imageEntry(png);
+        QTest::newRow("huge png") << imageEntry(testcommon::pngClaimingSize(30000, 30000));
         QTest::newRow("ppm header") << imageEntry(QByteArray("P6 20000 20000 255\n"));
         QTest::newRow("xpm") << imageEntry(QByteArray("/* XPM */\nstatic char *x[] = {\"9999 9999 1 1\"};"));
 
