@@ -2,12 +2,13 @@
 // at a wide and a narrow width, and saves PNGs when TESSARO_SCREENSHOT_DIR is set.
 #include <QtitanRibbon.h>
 
-#include <tessaro/MdiArea.h>
-
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QPaintEvent>
+#include <QStyleOption>
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
@@ -83,6 +84,29 @@ void addSeparator(QWidget* group)
     group->addAction(separator);
 }
 
+// The document area of a host written against the ribbon API: tabbed, and
+// painted with the style's workspace element where no document covers it.
+class WorkspaceArea : public QMdiArea
+{
+public:
+    WorkspaceArea()
+    {
+        setViewMode(QMdiArea::TabbedView);
+        setTabPosition(QTabWidget::South);
+        setTabsClosable(true);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(viewport());
+        QStyleOption option;
+        option.initFrom(this);
+        style()->drawPrimitive(static_cast<QStyle::PrimitiveElement>(CommonStyle::PE_Workspace), &option,
+                               &painter, this);
+    }
+};
+
 struct Sample
 {
     RibbonMainWindow window;
@@ -96,7 +120,7 @@ struct Sample
         bar = new RibbonBar;
         window.setRibbonBar(bar);
         bar->setFrameThemeEnabled(true);
-        QAction* system = bar->addSystemButton(QIcon(QStringLiteral(":/Tessaro/logo.png")), QStringLiteral("Файл"));
+        QAction* system = bar->addSystemButton(glyph(QColor(0x2B, 0x57, 0x9A), 1), QStringLiteral("Файл"));
         QMenu* systemMenu = system->menu();
         systemMenu->addAction(glyph(QColor(0x2B, 0x57, 0x9A), 0), QStringLiteral("Создать"));
         systemMenu->addAction(glyph(QColor(0xE0, 0x9A, 0x1B), 3), QStringLiteral("Открыть..."));
@@ -170,7 +194,7 @@ struct Sample
             glyph(QColor(0x5B, 0x5B, 0x5B), 3), QStringLiteral("Новое окно"), Qt::ToolButtonTextUnderIcon);
         bar->addPage(QStringLiteral("Справка"));
 
-        auto* mdi = new ui::MdiArea;
+        auto* mdi = new WorkspaceArea;
         window.setCentralWidget(mdi);
         auto* document = mdi->addSubWindow(new QTextEdit(QStringLiteral("Квартальный отчёт")));
         document->setWindowTitle(QStringLiteral("Отчёт"));
