@@ -73,7 +73,7 @@ QKeySequence seq(const char* text)
 
 } // namespace
 
-class TestHotKeyPage : public QObject
+class tst_HotKeyPage : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +104,7 @@ private slots:
     void shiftDigitStoredWithoutShift();
 };
 
-void TestHotKeyPage::form()
+void tst_HotKeyPage::form()
 {
     PageFixture f;
     QCOMPARE(f.page->objectName(), QStringLiteral("QHotKeyPage"));
@@ -150,7 +150,7 @@ void TestHotKeyPage::form()
 
 // The page builds its form, then the key sequence edit: the edit is the last
 // child of the page.
-void TestHotKeyPage::formFirstThenEdit()
+void tst_HotKeyPage::formFirstThenEdit()
 {
     PageFixture f;
     QList<QWidget*> children;
@@ -170,7 +170,7 @@ void TestHotKeyPage::formFirstThenEdit()
 
 // The focus chain follows the order of creation: from the page to the form's
 // widgets in form order, then the edit.
-void TestHotKeyPage::focusChainStartsAtFormsFirstWidget()
+void tst_HotKeyPage::focusChainStartsAtFormsFirstWidget()
 {
     PageFixture f;
     QList<QWidget*> chain;
@@ -206,7 +206,7 @@ void TestHotKeyPage::focusChainStartsAtFormsFirstWidget()
     QCOMPARE(tabbed, (QList<QWidget*>{f.list, f.delButton, f.edit}));
 }
 
-void TestHotKeyPage::formTexts()
+void tst_HotKeyPage::formTexts()
 {
     PageFixture f;
     QCOMPARE(f.page->windowTitle(), QStringLiteral("Form"));
@@ -218,7 +218,7 @@ void TestHotKeyPage::formTexts()
     QCOMPARE(f.delButton->toolTip(), QStringLiteral("Удалить сочетание горячих клавиш"));
 }
 
-void TestHotKeyPage::formTranslatedInFormContext()
+void tst_HotKeyPage::formTranslatedInFormContext()
 {
     testcommon::FakeTranslator translator;
     QVERIFY(QCoreApplication::installTranslator(&translator));
@@ -231,7 +231,7 @@ void TestHotKeyPage::formTranslatedInFormContext()
              QStringLiteral("[QHotKeyPage]Новое сочетание"));
 }
 
-void TestHotKeyPage::addIconFromResources()
+void tst_HotKeyPage::addIconFromResources()
 {
     PageFixture f;
     QVERIFY(QFile::exists(QStringLiteral(":/Tessaro/plus.png")));
@@ -243,7 +243,7 @@ void TestHotKeyPage::addIconFromResources()
              expected.convertToFormat(QImage::Format_ARGB32));
 }
 
-void TestHotKeyPage::pageFillsItsParent()
+void tst_HotKeyPage::pageFillsItsParent()
 {
     PageFixture f;
     QVBoxLayout* layout = qobject_cast<QVBoxLayout*>(f.panel.layout());
@@ -256,7 +256,7 @@ void TestHotKeyPage::pageFillsItsParent()
     QCOMPARE(f.page->geometry(), f.panel.rect());
 }
 
-void TestHotKeyPage::parentWithLayoutKeepsIt()
+void tst_HotKeyPage::parentWithLayoutKeepsIt()
 {
     QWidget panel;
     QHBoxLayout* existing = new QHBoxLayout(&panel);
@@ -269,7 +269,7 @@ void TestHotKeyPage::parentWithLayoutKeepsIt()
     QCOMPARE(orphan.parentWidget(), static_cast<QWidget*>(nullptr));
 }
 
-void TestHotKeyPage::initialState()
+void tst_HotKeyPage::initialState()
 {
     PageFixture f;
     QVERIFY(f.show());
@@ -282,7 +282,7 @@ void TestHotKeyPage::initialState()
     QVERIFY(f.edit->text().isEmpty());
 }
 
-void TestHotKeyPage::setActionListsShortcuts()
+void tst_HotKeyPage::setActionListsShortcuts()
 {
     PageFixture f;
     QAction save(QStringLiteral("&Save"), nullptr);
@@ -307,7 +307,7 @@ void TestHotKeyPage::setActionListsShortcuts()
     QCOMPARE(f.page->shortcuts(), table);
 }
 
-void TestHotKeyPage::setActionNull()
+void tst_HotKeyPage::setActionNull()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -320,7 +320,7 @@ void TestHotKeyPage::setActionNull()
     QVERIFY(!f.addButton->isEnabled());
 }
 
-void TestHotKeyPage::setShortcutsRefreshesCurrentList()
+void tst_HotKeyPage::setShortcutsRefreshesCurrentList()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -336,7 +336,7 @@ void TestHotKeyPage::setShortcutsRefreshesCurrentList()
     QVERIFY(f.page->shortcuts().isEmpty());
 }
 
-void TestHotKeyPage::typingCtrlShiftSEnablesAdd()
+void tst_HotKeyPage::typingCtrlShiftSEnablesAdd()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -351,7 +351,7 @@ void TestHotKeyPage::typingCtrlShiftSEnablesAdd()
     QVERIFY(f.owner->isHidden());
 }
 
-void TestHotKeyPage::addWithClickAppendsToTable()
+void tst_HotKeyPage::addWithClickAppendsToTable()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -373,7 +373,7 @@ void TestHotKeyPage::addWithClickAppendsToTable()
     QCOMPARE(f.rows(), (QStringList{QStringLiteral("F7"), QStringLiteral("Ctrl+Shift+S")}));
 }
 
-void TestHotKeyPage::addRequiresTypedCombination()
+void tst_HotKeyPage::addRequiresTypedCombination()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -388,7 +388,7 @@ void TestHotKeyPage::addRequiresTypedCombination()
     QCOMPARE(f.list->count(), 0);
 }
 
-void TestHotKeyPage::ownedByOtherCommandShowsOwner()
+void tst_HotKeyPage::ownedByOtherCommandShowsOwner()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -411,7 +411,7 @@ void TestHotKeyPage::ownedByOtherCommandShowsOwner()
     QVERIFY(!f.addButton->isEnabled());
 }
 
-void TestHotKeyPage::ownedByCurrentCommandHidesOwnerAndDisablesAdd()
+void tst_HotKeyPage::ownedByCurrentCommandHidesOwnerAndDisablesAdd()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -424,7 +424,7 @@ void TestHotKeyPage::ownedByCurrentCommandHidesOwnerAndDisablesAdd()
     QVERIFY(!f.addButton->isEnabled());
 }
 
-void TestHotKeyPage::firstOwnerInKeyOrder()
+void tst_HotKeyPage::firstOwnerInKeyOrder()
 {
     PageFixture f;
     QAction* actions[] = {new QAction(QStringLiteral("A"), f.page), new QAction(QStringLiteral("B"), f.page),
@@ -446,7 +446,7 @@ void TestHotKeyPage::firstOwnerInKeyOrder()
     QCOMPARE(f.owner->text(), actions[1]->text());
 }
 
-void TestHotKeyPage::deleteWithoutSelectionOnlyRefreshes()
+void tst_HotKeyPage::deleteWithoutSelectionOnlyRefreshes()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -467,7 +467,7 @@ void TestHotKeyPage::deleteWithoutSelectionOnlyRefreshes()
     QVERIFY(f.addButton->isEnabled());
 }
 
-void TestHotKeyPage::selectAndDelete()
+void tst_HotKeyPage::selectAndDelete()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -484,7 +484,7 @@ void TestHotKeyPage::selectAndDelete()
     QCOMPARE(f.rows(), (QStringList{QStringLiteral("Ctrl+S"), QStringLiteral("F3")}));
 }
 
-void TestHotKeyPage::doubleClickDeletes()
+void tst_HotKeyPage::doubleClickDeletes()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -500,7 +500,7 @@ void TestHotKeyPage::doubleClickDeletes()
     QCOMPARE(f.rows(), QStringList{QStringLiteral("F2")});
 }
 
-void TestHotKeyPage::insertAfterSelectedRowAndRowPairedDelete()
+void tst_HotKeyPage::insertAfterSelectedRowAndRowPairedDelete()
 {
     PageFixture f;
     QAction save(QStringLiteral("Save"), nullptr);
@@ -520,7 +520,7 @@ void TestHotKeyPage::insertAfterSelectedRowAndRowPairedDelete()
     QCOMPARE(f.page->shortcuts().value(&save), (QList<QKeySequence>{seq("F1"), seq("F3")}));
 }
 
-void TestHotKeyPage::addWithoutCurrentActionDoesNothing()
+void tst_HotKeyPage::addWithoutCurrentActionDoesNothing()
 {
     PageFixture f;
     QTest::keyClick(f.edit, Qt::Key_F4);
@@ -530,7 +530,7 @@ void TestHotKeyPage::addWithoutCurrentActionDoesNothing()
     QCOMPARE(f.list->count(), 0);
 }
 
-void TestHotKeyPage::shiftDigitStoredWithoutShift()
+void tst_HotKeyPage::shiftDigitStoredWithoutShift()
 {
     PageFixture f;
     QAction bang(QStringLiteral("Bang"), nullptr);
@@ -543,5 +543,5 @@ void TestHotKeyPage::shiftDigitStoredWithoutShift()
     QCOMPARE(f.rows(), QStringList{QStringLiteral("!")});
 }
 
-QTEST_MAIN(TestHotKeyPage)
+QTEST_MAIN(tst_HotKeyPage)
 #include "tst_hotkeypage.moc"

@@ -7,7 +7,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-class TestKeySequenceEdit : public QObject
+class tst_KeySequenceEdit : public QObject
 {
     Q_OBJECT
 
@@ -27,14 +27,14 @@ private slots:
     void applicationShortcutDoesNotFireWhileFocused();
 };
 
-void TestKeySequenceEdit::startsEmpty()
+void tst_KeySequenceEdit::startsEmpty()
 {
     QtKeySequenceEdit edit;
     QVERIFY(edit.keySequence().isEmpty());
     QVERIFY(edit.text().isEmpty());
 }
 
-void TestKeySequenceEdit::ctrlShiftS()
+void tst_KeySequenceEdit::ctrlShiftS()
 {
     QtKeySequenceEdit edit;
     QSignalSpy changed(&edit, &QLineEdit::textChanged);
@@ -46,7 +46,7 @@ void TestKeySequenceEdit::ctrlShiftS()
     QCOMPARE(changed.count(), 1);
 }
 
-void TestKeySequenceEdit::shiftLetterKeepsShift()
+void tst_KeySequenceEdit::shiftLetterKeepsShift()
 {
     QtKeySequenceEdit edit;
     QTest::keyClick(&edit, Qt::Key_A, Qt::ShiftModifier); // the event's text is "A"
@@ -54,7 +54,7 @@ void TestKeySequenceEdit::shiftLetterKeepsShift()
     QCOMPARE(edit.text(), QKeySequence(Qt::SHIFT | Qt::Key_A).toString(QKeySequence::NativeText));
 }
 
-void TestKeySequenceEdit::shiftDigitTypingSymbolDropsShift()
+void tst_KeySequenceEdit::shiftDigitTypingSymbolDropsShift()
 {
     QtKeySequenceEdit edit;
     // Shift+1 on a layout where it types "!": the key arrives as Key_Exclam.
@@ -70,7 +70,7 @@ void TestKeySequenceEdit::shiftDigitTypingSymbolDropsShift()
     QVERIFY(!(edit.keySequence()[0] & Qt::SHIFT));
 }
 
-void TestKeySequenceEdit::shiftWithNonPrintableOrSpaceKeepsShift()
+void tst_KeySequenceEdit::shiftWithNonPrintableOrSpaceKeepsShift()
 {
     QtKeySequenceEdit edit;
     // No text at all (a function key).
@@ -87,7 +87,7 @@ void TestKeySequenceEdit::shiftWithNonPrintableOrSpaceKeepsShift()
     QCOMPARE(edit.keySequence(), QKeySequence(Qt::SHIFT | 0x0416));
 }
 
-void TestKeySequenceEdit::ignoredKeysChangeNothing_data()
+void tst_KeySequenceEdit::ignoredKeysChangeNothing_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
@@ -101,7 +101,7 @@ void TestKeySequenceEdit::ignoredKeysChangeNothing_data()
     QTest::newRow("no key") << 0 << int(Qt::ShiftModifier);
 }
 
-void TestKeySequenceEdit::ignoredKeysChangeNothing()
+void tst_KeySequenceEdit::ignoredKeysChangeNothing()
 {
     QFETCH(int, key);
     QFETCH(int, modifiers);
@@ -119,7 +119,7 @@ void TestKeySequenceEdit::ignoredKeysChangeNothing()
     QCOMPARE(changed.count(), 0);
 }
 
-void TestKeySequenceEdit::eachPressReplacesTheCombination()
+void tst_KeySequenceEdit::eachPressReplacesTheCombination()
 {
     QtKeySequenceEdit edit;
     QTest::keyClick(&edit, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
@@ -135,7 +135,7 @@ void TestKeySequenceEdit::eachPressReplacesTheCombination()
     QCOMPARE(edit.text(), QKeySequence(Qt::Key_Backspace).toString(QKeySequence::NativeText));
 }
 
-void TestKeySequenceEdit::altAndMetaCount()
+void tst_KeySequenceEdit::altAndMetaCount()
 {
     QtKeySequenceEdit edit;
     QTest::keyClick(&edit, Qt::Key_F4, Qt::AltModifier);
@@ -146,7 +146,7 @@ void TestKeySequenceEdit::altAndMetaCount()
     QCOMPARE(edit.keySequence(), QKeySequence(Qt::CTRL | Qt::ALT | Qt::Key_Delete));
 }
 
-void TestKeySequenceEdit::keypadModifierNeverCounts()
+void tst_KeySequenceEdit::keypadModifierNeverCounts()
 {
     QtKeySequenceEdit edit;
     QTest::keyClick(&edit, Qt::Key_5, Qt::KeypadModifier);
@@ -155,14 +155,14 @@ void TestKeySequenceEdit::keypadModifierNeverCounts()
     QCOMPARE(edit.keySequence(), QKeySequence(Qt::CTRL | Qt::Key_Plus));
 }
 
-void TestKeySequenceEdit::swallowedEvents_data()
+void tst_KeySequenceEdit::swallowedEvents_data()
 {
     QTest::addColumn<int>("type");
     QTest::newRow("ShortcutOverride") << int(QEvent::ShortcutOverride);
     QTest::newRow("KeyRelease") << int(QEvent::KeyRelease);
 }
 
-void TestKeySequenceEdit::swallowedEvents()
+void tst_KeySequenceEdit::swallowedEvents()
 {
     QFETCH(int, type);
     QtKeySequenceEdit edit;
@@ -180,7 +180,7 @@ void TestKeySequenceEdit::swallowedEvents()
     QVERIFY(shortcut.isAccepted());
 }
 
-void TestKeySequenceEdit::applicationShortcutDoesNotFireWhileFocused()
+void tst_KeySequenceEdit::applicationShortcutDoesNotFireWhileFocused()
 {
     QWidget window;
     QVBoxLayout* layout = new QVBoxLayout(&window);
@@ -206,5 +206,5 @@ void TestKeySequenceEdit::applicationShortcutDoesNotFireWhileFocused()
     QCOMPARE(edit->keySequence(), QKeySequence(Qt::CTRL | Qt::Key_S));
 }
 
-QTEST_MAIN(TestKeySequenceEdit)
+QTEST_MAIN(tst_KeySequenceEdit)
 #include "tst_keysequenceedit.moc"

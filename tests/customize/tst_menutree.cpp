@@ -131,7 +131,7 @@ public:
 
 } // namespace
 
-class TestMenuTree : public QObject
+class tst_MenuTree : public QObject
 {
     Q_OBJECT
 
@@ -177,7 +177,7 @@ private slots:
     void widgetDoubleClickedNotCurrentIgnored();
 };
 
-void TestMenuTree::testerOnNestedMenu()
+void tst_MenuTree::testerOnNestedMenu()
 {
     Fixture f;
     // An action in a menu that is also reachable a second way would break the
@@ -187,7 +187,7 @@ void TestMenuTree::testerOnNestedMenu()
     QVERIFY(!QTest::currentTestFailed());
 }
 
-void TestMenuTree::testerOnEmptyAndNullMenu()
+void tst_MenuTree::testerOnEmptyAndNullMenu()
 {
     QMenu empty(QStringLiteral("Empty"));
     MenuTreeModel model(&empty);
@@ -203,7 +203,7 @@ void TestMenuTree::testerOnEmptyAndNullMenu()
     }
 }
 
-void TestMenuTree::testerAcrossSetMenu()
+void tst_MenuTree::testerAcrossSetMenu()
 {
     Fixture f;
     QMenu other(QStringLiteral("Other"));
@@ -219,7 +219,7 @@ void TestMenuTree::testerAcrossSetMenu()
     QCOMPARE(model.rowCount(), 3);
 }
 
-void TestMenuTree::structure()
+void tst_MenuTree::structure()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -245,7 +245,7 @@ void TestMenuTree::structure()
     QCOMPARE(exposed.rowCount(exposed.make(0, 1, f.file->menuAction())), 0);
 }
 
-void TestMenuTree::parentOfNestedItems()
+void tst_MenuTree::parentOfNestedItems()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -267,7 +267,7 @@ void TestMenuTree::parentOfNestedItems()
     QCOMPARE(model.parent(copy).row(), 1);
 }
 
-void TestMenuTree::indexOutOfRange()
+void tst_MenuTree::indexOutOfRange()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -280,7 +280,7 @@ void TestMenuTree::indexOutOfRange()
     QVERIFY(!model.data(QModelIndex()).isValid());
 }
 
-void TestMenuTree::dynamicMenuIsSelectableLeaf()
+void tst_MenuTree::dynamicMenuIsSelectableLeaf()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -296,7 +296,7 @@ void TestMenuTree::dynamicMenuIsSelectableLeaf()
     QVERIFY(!findIndex(model, f.recent->actions().first()).isValid());
 }
 
-void TestMenuTree::isDynamicFalseOrInvalidIsCategory()
+void tst_MenuTree::isDynamicFalseOrInvalidIsCategory()
 {
     Fixture f;
     f.recent->menuAction()->setProperty("isDynamic", false);
@@ -332,7 +332,7 @@ void TestMenuTree::isDynamicFalseOrInvalidIsCategory()
     QCOMPARE(model.rowCount(recent), 2);
 }
 
-void TestMenuTree::separatorItem()
+void tst_MenuTree::separatorItem()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -348,7 +348,7 @@ void TestMenuTree::separatorItem()
     QCOMPARE(model.rowCount(separator), 0);
 }
 
-void TestMenuTree::ampersandsRemoved()
+void tst_MenuTree::ampersandsRemoved()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -365,7 +365,7 @@ void TestMenuTree::ampersandsRemoved()
     QVERIFY(!model.data(open, Qt::UserRole).isValid());
 }
 
-void TestMenuTree::categoryBoldCommandPlain()
+void tst_MenuTree::categoryBoldCommandPlain()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -378,7 +378,7 @@ void TestMenuTree::categoryBoldCommandPlain()
     QVERIFY(!model.data(model.index(2, 0), Qt::FontRole).isValid());
 }
 
-void TestMenuTree::decorationIsIcon()
+void tst_MenuTree::decorationIsIcon()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -388,7 +388,7 @@ void TestMenuTree::decorationIsIcon()
     QVERIFY(model.data(findIndex(model, f.open), Qt::DecorationRole).value<QIcon>().isNull());
 }
 
-void TestMenuTree::flags()
+void tst_MenuTree::flags()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -402,7 +402,7 @@ void TestMenuTree::flags()
     QCOMPARE(model.flags(findIndex(model, f.cut)), Qt::ItemIsSelectable | Qt::ItemIsEnabled);
 }
 
-void TestMenuTree::headerShowsRootTitle()
+void tst_MenuTree::headerShowsRootTitle()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -413,7 +413,7 @@ void TestMenuTree::headerShowsRootTitle()
     QCOMPARE(tree.model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("&Commands"));
 }
 
-void TestMenuTree::setMenuNullEmptiesTree()
+void tst_MenuTree::setMenuNullEmptiesTree()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -431,7 +431,7 @@ void TestMenuTree::setMenuNullEmptiesTree()
     QVERIFY(!tree.model()->headerData(0, Qt::Horizontal).isValid());
 }
 
-void TestMenuTree::setMenuResets()
+void tst_MenuTree::setMenuResets()
 {
     Fixture f;
     QMenu other(QStringLiteral("Other"));
@@ -447,7 +447,7 @@ void TestMenuTree::setMenuResets()
     QCOMPARE(model.headerData(0, Qt::Horizontal).toString(), QStringLiteral("Other"));
 }
 
-void TestMenuTree::readsLiveMenu()
+void tst_MenuTree::readsLiveMenu()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -470,7 +470,7 @@ void TestMenuTree::readsLiveMenu()
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
 }
 
-void TestMenuTree::parentFollowsLiveMenuWithoutReset()
+void tst_MenuTree::parentFollowsLiveMenuWithoutReset()
 {
     Fixture f;
     MenuTreeModel model(&f.root);
@@ -501,7 +501,7 @@ void TestMenuTree::parentFollowsLiveMenuWithoutReset()
     QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
 }
 
-void TestMenuTree::parentOfRemovedActionIsInvalid()
+void tst_MenuTree::parentOfRemovedActionIsInvalid()
 {
     Fixture f;
     ExposedModel model(&f.root);
@@ -518,7 +518,7 @@ void TestMenuTree::parentOfRemovedActionIsInvalid()
     QCOMPARE(model.rowCount(), 2);
 }
 
-void TestMenuTree::separatorTranslatedInFileContext()
+void tst_MenuTree::separatorTranslatedInFileContext()
 {
     Fixture f;
     testcommon::FakeTranslator translator;
@@ -531,7 +531,7 @@ void TestMenuTree::separatorTranslatedInFileContext()
     QCOMPARE(model.data(model.index(0, 0)).toString(), QStringLiteral("File"));
 }
 
-void TestMenuTree::actionInTwoSubmenusHasFirstParent()
+void tst_MenuTree::actionInTwoSubmenusHasFirstParent()
 {
     Fixture f;
     f.image->addAction(f.cut);
@@ -543,7 +543,7 @@ void TestMenuTree::actionInTwoSubmenusHasFirstParent()
     QCOMPARE(model.parent(second), image);
 }
 
-void TestMenuTree::foreignMenuActionGivesRowMinusOne()
+void tst_MenuTree::foreignMenuActionGivesRowMinusOne()
 {
     // A menu shared by two actions answers menuAction() with the last one
     // given it; when that one is not in the tree, the parent found for the
@@ -570,7 +570,7 @@ void TestMenuTree::foreignMenuActionGivesRowMinusOne()
 
 // Answered once, then the command is also put into a submenu that comes
 // earlier, without setMenu(): the answer follows the walk at once.
-void TestMenuTree::parentAfterAddingToEarlierSubmenu()
+void tst_MenuTree::parentAfterAddingToEarlierSubmenu()
 {
     Fixture f;
     ExposedModel model(&f.root);
@@ -604,7 +604,7 @@ void TestMenuTree::parentAfterAddingToEarlierSubmenu()
 }
 
 // A command given a submenu (or losing one) changes what lies under the root.
-void TestMenuTree::parentAfterSubmenuChanges()
+void tst_MenuTree::parentAfterSubmenuChanges()
 {
     Fixture f;
     ExposedModel model(&f.root);
@@ -638,7 +638,7 @@ void TestMenuTree::parentAfterSubmenuChanges()
 
 // A submenu deleted behind the model's back takes its place with it; the
 // same command elsewhere is found there.
-void TestMenuTree::parentAfterSubmenuDeleted()
+void tst_MenuTree::parentAfterSubmenuDeleted()
 {
     Fixture f;
     ExposedModel model(&f.root);
@@ -659,7 +659,7 @@ void TestMenuTree::parentAfterSubmenuDeleted()
 
 // Random edits of a menu tree that the model is never told about; after each
 // one, the parent of every action (in or out of the tree) equals the walk's.
-void TestMenuTree::parentEqualsWalkThroughRandomEdits()
+void tst_MenuTree::parentEqualsWalkThroughRandomEdits()
 {
     // Menus 0 (the root) to 5. A menu holds only menus of higher numbers, and
     // only menus 0 to 3 hold the "holder" commands, which may carry menus 4
@@ -747,7 +747,7 @@ void TestMenuTree::parentEqualsWalkThroughRandomEdits()
     QVERIFY2(found > checked / 5, qPrintable(QStringLiteral("%1 of %2").arg(found).arg(checked)));
 }
 
-void TestMenuTree::widgetConstruction()
+void tst_MenuTree::widgetConstruction()
 {
     Fixture f;
     QWidget host;
@@ -767,7 +767,7 @@ void TestMenuTree::widgetConstruction()
     QCOMPARE(empty.model()->rowCount(), 0);
 }
 
-void TestMenuTree::widgetExpandsAll()
+void tst_MenuTree::widgetExpandsAll()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -782,7 +782,7 @@ void TestMenuTree::widgetExpandsAll()
     QVERIFY(tree.visualRect(findIndex(*model, f.jpeg)).isValid());
 }
 
-void TestMenuTree::widgetSetMenu()
+void tst_MenuTree::widgetSetMenu()
 {
     Fixture f;
     MenuTreeWidget tree;
@@ -794,7 +794,7 @@ void TestMenuTree::widgetSetMenu()
     QVERIFY(tree.isExpanded(tree.model()->index(1, 0)));
 }
 
-void TestMenuTree::widgetClickEmitsCurrentActionChanged()
+void tst_MenuTree::widgetClickEmitsCurrentActionChanged()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -820,7 +820,7 @@ void TestMenuTree::widgetClickEmitsCurrentActionChanged()
     QCOMPARE(spy.at(2).at(0).value<QAction*>(), f.recent->menuAction());
 }
 
-void TestMenuTree::widgetClickOnCategoryOrSeparatorKeepsCurrent()
+void tst_MenuTree::widgetClickOnCategoryOrSeparatorKeepsCurrent()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -841,7 +841,7 @@ void TestMenuTree::widgetClickOnCategoryOrSeparatorKeepsCurrent()
     QVERIFY(!tree.selectionModel()->isSelected(edit));
 }
 
-void TestMenuTree::widgetCurrentClearedEmitsNull()
+void tst_MenuTree::widgetCurrentClearedEmitsNull()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -852,7 +852,7 @@ void TestMenuTree::widgetCurrentClearedEmitsNull()
     QCOMPARE(spy.at(0).at(0).value<QAction*>(), static_cast<QAction*>(nullptr));
 }
 
-void TestMenuTree::widgetSetMenuDropsCurrent()
+void tst_MenuTree::widgetSetMenuDropsCurrent()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -867,7 +867,7 @@ void TestMenuTree::widgetSetMenuDropsCurrent()
     QCOMPARE(spy.at(1).at(0).value<QAction*>(), static_cast<QAction*>(nullptr));
 }
 
-void TestMenuTree::widgetDoubleClickCommand()
+void tst_MenuTree::widgetDoubleClickCommand()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -884,7 +884,7 @@ void TestMenuTree::widgetDoubleClickCommand()
     QCOMPARE(spy.at(0).at(0).value<QAction*>(), f.copy);
 }
 
-void TestMenuTree::widgetDoubleClickDynamicMenu()
+void tst_MenuTree::widgetDoubleClickDynamicMenu()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -903,7 +903,7 @@ void TestMenuTree::widgetDoubleClickDynamicMenu()
     QCOMPARE(tree.model()->rowCount(recent), 0);
 }
 
-void TestMenuTree::widgetDoubleClickCategoryOrSeparator()
+void tst_MenuTree::widgetDoubleClickCategoryOrSeparator()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -924,7 +924,7 @@ void TestMenuTree::widgetDoubleClickCategoryOrSeparator()
     QCOMPARE(tree.currentIndex(), pdf);
 }
 
-void TestMenuTree::widgetDoubleClickedNotCurrentIgnored()
+void tst_MenuTree::widgetDoubleClickedNotCurrentIgnored()
 {
     Fixture f;
     MenuTreeWidget tree(nullptr, &f.root);
@@ -938,5 +938,5 @@ void TestMenuTree::widgetDoubleClickedNotCurrentIgnored()
     QCOMPARE(spy.count(), 1);
 }
 
-QTEST_MAIN(TestMenuTree)
+QTEST_MAIN(tst_MenuTree)
 #include "tst_menutree.moc"

@@ -385,7 +385,7 @@ QToolButton* toolBarButton(QToolBar* toolBar, QAction* action)
 
 } // namespace
 
-class ToolBarPageTest : public QObject
+class tst_ToolBarPage : public QObject
 {
     Q_OBJECT
 
@@ -422,7 +422,7 @@ private slots:
     void toolBarPanelWorksWhenMovedToTheLeftSide();
 };
 
-void ToolBarPageTest::formHasListTreeAndTenButtons()
+void tst_ToolBarPage::formHasListTreeAndTenButtons()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -449,7 +449,7 @@ void ToolBarPageTest::formHasListTreeAndTenButtons()
     QVERIFY(f.commands->isVisible());
 }
 
-void ToolBarPageTest::setToolBarsListsOneRowPerToolbar()
+void tst_ToolBarPage::setToolBarsListsOneRowPerToolbar()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -471,7 +471,7 @@ void ToolBarPageTest::setToolBarsListsOneRowPerToolbar()
     QCOMPARE(f.standard->windowTitle(), QStringLiteral("Стандартная"));
 }
 
-void ToolBarPageTest::setToolBarsReplacesTheRows()
+void tst_ToolBarPage::setToolBarsReplacesTheRows()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -488,7 +488,7 @@ void ToolBarPageTest::setToolBarsReplacesTheRows()
     QVERIFY(f.standard->isEnabled());
 }
 
-void ToolBarPageTest::selectingARowShowsTheToolbarContents()
+void tst_ToolBarPage::selectingARowShowsTheToolbarContents()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -518,7 +518,7 @@ void ToolBarPageTest::selectingARowShowsTheToolbarContents()
     QCOMPARE(f.top(0)->data(0, Qt::UserRole).toUInt(), 4u);
 }
 
-void ToolBarPageTest::updateButtonsWithoutToolbar()
+void tst_ToolBarPage::updateButtonsWithoutToolbar()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -538,7 +538,7 @@ void ToolBarPageTest::updateButtonsWithoutToolbar()
     QCOMPARE(describe(f.standard), QString::fromUtf8("Открыть|Сохранить|-|{Печать,Отменить}"));
 }
 
-void ToolBarPageTest::updateButtonsFollowTheSelection()
+void tst_ToolBarPage::updateButtonsFollowTheSelection()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -610,7 +610,7 @@ void ToolBarPageTest::updateButtonsFollowTheSelection()
     QVERIFY(!f.addActionToGroupButton->isEnabled());
 }
 
-void ToolBarPageTest::setCurrentCommandNullDisablesAdding()
+void tst_ToolBarPage::setCurrentCommandNullDisablesAdding()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -627,7 +627,7 @@ void ToolBarPageTest::setCurrentCommandNullDisablesAdding()
     QCOMPARE(f.contents(), QString::fromUtf8("Открыть|Сохранить|-|{Печать,Отменить}"));
 }
 
-void ToolBarPageTest::addCommandGoesAfterTheSelectedItem()
+void tst_ToolBarPage::addCommandGoesAfterTheSelectedItem()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -652,7 +652,7 @@ void ToolBarPageTest::addCommandGoesAfterTheSelectedItem()
     QCOMPARE(f.tree->currentItem(), f.top(5));
 }
 
-void ToolBarPageTest::addCommandWithoutSelectionGoesFirst()
+void tst_ToolBarPage::addCommandWithoutSelectionGoesFirst()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -665,7 +665,7 @@ void ToolBarPageTest::addCommandWithoutSelectionGoesFirst()
     QCOMPARE(f.tree->currentItem(), f.top(0));
 }
 
-void ToolBarPageTest::addGroupMakesASimpleGroupButton()
+void tst_ToolBarPage::addGroupMakesASimpleGroupButton()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -696,7 +696,7 @@ void ToolBarPageTest::addGroupMakesASimpleGroupButton()
     QCOMPARE(f.standard->actions().size(), 5);
 }
 
-void ToolBarPageTest::addToGroupCreatesTheMenuOnTheFirstAdd()
+void tst_ToolBarPage::addToGroupCreatesTheMenuOnTheFirstAdd()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -741,7 +741,7 @@ void ToolBarPageTest::addToGroupCreatesTheMenuOnTheFirstAdd()
     QCOMPARE(f.contents(), QString::fromUtf8("Открыть|Сохранить|{Вернуть,Закрыть,Печать}|-|{Печать,Отменить}"));
 }
 
-void ToolBarPageTest::addToGroupLeavesACommandTheGroupHolds()
+void tst_ToolBarPage::addToGroupLeavesACommandTheGroupHolds()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -755,7 +755,7 @@ void ToolBarPageTest::addToGroupLeavesACommandTheGroupHolds()
     QCOMPARE(f.hostGroup->menu()->actions(), (QList<QAction*>{f.print, f.undo}));
 }
 
-void ToolBarPageTest::addSeparatorOnTheToolbar()
+void tst_ToolBarPage::addSeparatorOnTheToolbar()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -782,7 +782,7 @@ void ToolBarPageTest::addSeparatorOnTheToolbar()
     QVERIFY(f.standard->actions().first()->isSeparator());
 }
 
-void ToolBarPageTest::addSeparatorInsideAGroup()
+void tst_ToolBarPage::addSeparatorInsideAGroup()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -808,7 +808,7 @@ void ToolBarPageTest::addSeparatorInsideAGroup()
     QCOMPARE(f.standard->actions().at(1)->menu()->parent(), f.standard);
 }
 
-void ToolBarPageTest::removeKeepsCommandsAndGroupsButDeletesSeparators()
+void tst_ToolBarPage::removeKeepsCommandsAndGroupsButDeletesSeparators()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -858,7 +858,7 @@ void ToolBarPageTest::removeKeepsCommandsAndGroupsButDeletesSeparators()
     QCOMPARE(f.contents(), QString::fromUtf8("Открыть"));
 }
 
-void ToolBarPageTest::upAndDownMoveAmongSiblings()
+void tst_ToolBarPage::upAndDownMoveAmongSiblings()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -898,7 +898,7 @@ void ToolBarPageTest::upAndDownMoveAmongSiblings()
     QCOMPARE(f.hostGroup->menu()->actions(), (QList<QAction*>{f.print, f.undo}));
 }
 
-void ToolBarPageTest::movingKeepsTheButtonLook()
+void tst_ToolBarPage::movingKeepsTheButtonLook()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -927,7 +927,7 @@ void ToolBarPageTest::movingKeepsTheButtonLook()
     QCOMPARE(saveButton->iconSize(), QSize(32, 32));
 }
 
-void ToolBarPageTest::doubleClickAddsToTheGroupWhenAddCommandIsDisabled()
+void tst_ToolBarPage::doubleClickAddsToTheGroupWhenAddCommandIsDisabled()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -948,7 +948,7 @@ void ToolBarPageTest::doubleClickAddsToTheGroupWhenAddCommandIsDisabled()
     QCOMPARE(f.contents(), QString::fromUtf8("Открыть|Сохранить|-|{Печать,Вернуть,Отменить}"));
 }
 
-void ToolBarPageTest::doubleClickAddsToTheToolbarWhenAddCommandIsEnabled()
+void tst_ToolBarPage::doubleClickAddsToTheToolbarWhenAddCommandIsEnabled()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -960,7 +960,7 @@ void ToolBarPageTest::doubleClickAddsToTheToolbarWhenAddCommandIsEnabled()
     QCOMPARE(f.tree->currentItem(), f.top(4));
 }
 
-void ToolBarPageTest::doubleClickOnACommandTheToolbarHoldsDoesNothing()
+void tst_ToolBarPage::doubleClickOnACommandTheToolbarHoldsDoesNothing()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -980,7 +980,7 @@ void ToolBarPageTest::doubleClickOnACommandTheToolbarHoldsDoesNothing()
     QCOMPARE(f.contents(), QString::fromUtf8("Открыть|Сохранить|-|{Печать,Отменить}"));
 }
 
-void ToolBarPageTest::addToolbarNamesItWithTheSmallestFreeNumber()
+void tst_ToolBarPage::addToolbarNamesItWithTheSmallestFreeNumber()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1020,7 +1020,7 @@ void ToolBarPageTest::addToolbarNamesItWithTheSmallestFreeNumber()
     QCOMPARE(f.list->currentRow(), 4);
 }
 
-void ToolBarPageTest::addToolbarSkipsNumbersOfHostToolbars()
+void tst_ToolBarPage::addToolbarSkipsNumbersOfHostToolbars()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1033,7 +1033,7 @@ void ToolBarPageTest::addToolbarSkipsNumbersOfHostToolbars()
                                            QStringLiteral("4")}));
 }
 
-void ToolBarPageTest::removeToolbarDeletesItAndShowsTheNextOne()
+void tst_ToolBarPage::removeToolbarDeletesItAndShowsTheNextOne()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1062,7 +1062,7 @@ void ToolBarPageTest::removeToolbarDeletesItAndShowsTheNextOne()
     QVERIFY(f.commandsMenu.actions().at(1)->menu()->actions().contains(f.undo));
 }
 
-void ToolBarPageTest::renameToolbarSetsTheTitle()
+void tst_ToolBarPage::renameToolbarSetsTheTitle()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1085,7 +1085,7 @@ void ToolBarPageTest::renameToolbarSetsTheTitle()
     QVERIFY(!f.editing->isEnabled());
 }
 
-void ToolBarPageTest::titleOf256CharactersIsRefused()
+void tst_ToolBarPage::titleOf256CharactersIsRefused()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1107,7 +1107,7 @@ void ToolBarPageTest::titleOf256CharactersIsRefused()
     QCOMPARE(f.standard->windowTitle(), longest);
 }
 
-void ToolBarPageTest::checkBoxEnablesTheToolbar()
+void tst_ToolBarPage::checkBoxEnablesTheToolbar()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1134,7 +1134,7 @@ void ToolBarPageTest::checkBoxEnablesTheToolbar()
     QCOMPARE(added->windowTitle(), QStringLiteral("Custom ToolBar"));
 }
 
-void ToolBarPageTest::contextMenuOffersFiveStyles()
+void tst_ToolBarPage::contextMenuOffersFiveStyles()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1174,7 +1174,7 @@ void ToolBarPageTest::contextMenuOffersFiveStyles()
     QCOMPARE(toolBarButton(f.standard, f.open)->toolButtonStyle(), Qt::ToolButtonIconOnly);
 }
 
-void ToolBarPageTest::contextMenuOnAGroupStylesItsButton()
+void tst_ToolBarPage::contextMenuOnAGroupStylesItsButton()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1187,7 +1187,7 @@ void ToolBarPageTest::contextMenuOnAGroupStylesItsButton()
     QVERIFY(f.top(3)->isExpanded());
 }
 
-void ToolBarPageTest::noContextMenuForSeparatorsOrGroupChildren()
+void tst_ToolBarPage::noContextMenuForSeparatorsOrGroupChildren()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1201,7 +1201,7 @@ void ToolBarPageTest::noContextMenuForSeparatorsOrGroupChildren()
     QVERIFY(f.rightClick(f.top(0), close));
 }
 
-void ToolBarPageTest::toolBarPanelWorksWhenMovedToTheLeftSide()
+void tst_ToolBarPage::toolBarPanelWorksWhenMovedToTheLeftSide()
 {
     Fixture f;
     QVERIFY(f.allFound());
@@ -1225,5 +1225,5 @@ void ToolBarPageTest::toolBarPanelWorksWhenMovedToTheLeftSide()
     QVERIFY(!f.standard->isEnabled());
 }
 
-QTEST_MAIN(ToolBarPageTest)
+QTEST_MAIN(tst_ToolBarPage)
 #include "tst_toolbarpage.moc"

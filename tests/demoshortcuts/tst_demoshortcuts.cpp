@@ -75,7 +75,7 @@ QModelIndex findIndex(const QAbstractItemModel* model, const QAction* action, co
 
 } // namespace
 
-class TestDemoShortcuts : public QObject
+class tst_DemoShortcuts : public QObject
 {
     Q_OBJECT
 
@@ -90,7 +90,7 @@ private slots:
     void conflictOwnerIsLabelled();
 };
 
-void TestDemoShortcuts::collectDepthFirstEachOnce()
+void tst_DemoShortcuts::collectDepthFirstEachOnce()
 {
     Commands c;
     const DemoShortcutsDialog::Table table = DemoShortcutsDialog::collectShortcuts(&c.root);
@@ -103,7 +103,7 @@ void TestDemoShortcuts::collectDepthFirstEachOnce()
     QVERIFY(DemoShortcutsDialog::collectShortcuts(nullptr).isEmpty());
 }
 
-void TestDemoShortcuts::editAndConfirmAppliesToActions()
+void tst_DemoShortcuts::editAndConfirmAppliesToActions()
 {
     Commands c;
     DemoShortcutsDialog dialog(&c.root);
@@ -137,7 +137,7 @@ void TestDemoShortcuts::editAndConfirmAppliesToActions()
     QCOMPARE(c.save->shortcuts().size(), 2);
 }
 
-void TestDemoShortcuts::cancelLeavesActions()
+void tst_DemoShortcuts::cancelLeavesActions()
 {
     Commands c;
     DemoShortcutsDialog dialog(&c.root);
@@ -154,7 +154,7 @@ void TestDemoShortcuts::cancelLeavesActions()
     QCOMPARE(c.open->shortcuts(), QList<QKeySequence>{QKeySequence(QStringLiteral("Ctrl+O"))});
 }
 
-void TestDemoShortcuts::commandKeys()
+void tst_DemoShortcuts::commandKeys()
 {
     Commands c;
     QCOMPARE(DemoShortcutSettings::commandKey(c.save), QStringLiteral("id:103"));
@@ -163,7 +163,7 @@ void TestDemoShortcuts::commandKeys()
     QCOMPARE(DemoShortcutSettings::commandKey(c.recentFile), QString());
 }
 
-void TestDemoShortcuts::settingsRoundTrip()
+void tst_DemoShortcuts::settingsRoundTrip()
 {
     QByteArray bytes;
     {
@@ -195,7 +195,7 @@ void TestDemoShortcuts::settingsRoundTrip()
     QCOMPARE(DemoShortcutSettings::restore(saved, &c.root), 0);
 }
 
-void TestDemoShortcuts::demoToolsCommandEditsAndKeeps()
+void tst_DemoShortcuts::demoToolsCommandEditsAndKeeps()
 {
     QTemporaryDir dir;
     QVERIFY(dir.isValid());
@@ -234,7 +234,7 @@ void TestDemoShortcuts::demoToolsCommandEditsAndKeeps()
     QVERIFY(wordCount->shortcuts().contains(chosen));
 }
 
-void TestDemoShortcuts::selectedRowKeepsIconsLegible()
+void tst_DemoShortcuts::selectedRowKeepsIconsLegible()
 {
     Commands c;
     c.bold->setIcon(QIcon(QPixmap(16, 16)));
@@ -254,7 +254,7 @@ void TestDemoShortcuts::selectedRowKeepsIconsLegible()
     QVERIFY(QColor(picture.pixel(row.right() - 2, row.center().y())).lightness() > 200);
 }
 
-void TestDemoShortcuts::conflictOwnerIsLabelled()
+void tst_DemoShortcuts::conflictOwnerIsLabelled()
 {
     Commands c;
     DemoShortcutsDialog dialog(&c.root);
@@ -280,5 +280,5 @@ void TestDemoShortcuts::conflictOwnerIsLabelled()
     QVERIFY(!label->isVisible());
 }
 
-QTEST_MAIN(TestDemoShortcuts)
+QTEST_MAIN(tst_DemoShortcuts)
 #include "tst_demoshortcuts.moc"

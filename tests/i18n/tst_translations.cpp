@@ -22,7 +22,7 @@
 
 // The library's texts are keyed by the bare name of their source file (or by
 // the form's name); an English translator must reach every one of them.
-class TranslationsTest : public QObject
+class tst_Translations : public QObject
 {
     Q_OBJECT
 
@@ -241,5 +241,5 @@ private:
     QTranslator m_translator;
 };
 
-QTEST_MAIN(TranslationsTest)
+QTEST_MAIN(tst_Translations)
 #include "tst_translations.moc"

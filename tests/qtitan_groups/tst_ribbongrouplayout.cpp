@@ -40,7 +40,7 @@ QRect rectIn(const QWidget* widget, const QWidget* ancestor)
 
 } // namespace
 
-class TestRibbonGroupLayout : public QObject
+class tst_RibbonGroupLayout : public QObject
 {
     Q_OBJECT
 
@@ -534,5 +534,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRibbonGroupLayout)
+QTEST_MAIN(tst_RibbonGroupLayout)
 #include "tst_ribbongrouplayout.moc"

@@ -14,7 +14,7 @@
 using namespace Qtitan;
 using Size = RibbonControlSizeDefinition;
 
-class TestRibbonGroups : public QObject
+class tst_RibbonGroups : public QObject
 {
     Q_OBJECT
 
@@ -506,5 +506,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestRibbonGroups)
+QTEST_MAIN(tst_RibbonGroups)
 #include "tst_ribbongroups.moc"
