@@ -21,7 +21,7 @@ class RibbonBar;
 /// (its OK, Cancel and Reset buttons, its toolbars page). The class holds no
 /// data: derive from it and keep whatever the answers need.
 ///
-/// \code
+/// @code
 /// class HostHandler : public ui::IMenuDataHandler
 /// {
 /// public:
@@ -37,7 +37,7 @@ class RibbonBar;
 /// };
 ///
 /// dialog->setHandler(new HostHandler(window)); // the dialog deletes it
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT IMenuDataHandler
 {
 public:

@@ -38,7 +38,7 @@ class QHotKeyPage;
 /// hot keys tab is always taken out; its page is still built and fed from the
 /// menu, as a hidden child.
 ///
-/// \code
+/// @code
 /// QDialog window(mainWindow);
 /// auto* customize = new ui::QCustomizeDlg(&window);
 /// customize->setHandler(new HostHandler(mainWindow)); // owned by the dialog
@@ -51,7 +51,7 @@ class QHotKeyPage;
 /// customize->setCurrentTabIndex(1); // the ribbon tab
 /// if (window.exec() == QDialog::Accepted)
 ///     saveRibbonLayout();
-/// \endcode
+/// @endcode
 class TESSARO_EXPORT QCustomizeDlg : public QWidget
 {
     Q_OBJECT
