@@ -31,6 +31,8 @@ public:
 protected:
     /// Draws the button in the style's shape for it.
     void paintEvent(QPaintEvent* event) override;
+    /// Opens the system menu; afterwards the hover look follows wherever the
+    /// mouse is when the menu closes.
     void mousePressEvent(QMouseEvent* event) override;
 };
 
