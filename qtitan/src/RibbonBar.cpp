@@ -557,8 +557,11 @@ public:
         destroyWatch.remove(page);
         const bool inPopup = popupOpen() && pagePopup->tab() == index;
         dropAt(index);
-        if (inPopup)
+        if (inPopup) {
+            // Only a QWidget is left of the page: closing must not hand it back.
+            pagePopup->forgetPage();
             pagePopup->close();
+        }
     }
 
     void dropAt(int index)

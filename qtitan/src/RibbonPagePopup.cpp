@@ -78,6 +78,11 @@ void RibbonPagePopup::mousePressEvent(QMouseEvent* event)
     QWidget::mousePressEvent(event);
 }
 
+void RibbonPagePopup::forgetPage()
+{
+    m_page = nullptr;
+}
+
 void RibbonPagePopup::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);

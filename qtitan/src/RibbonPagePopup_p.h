@@ -23,6 +23,8 @@ public:
     /// The page shown, or null while closed.
     RibbonPage* page() const;
     int tab() const;
+    /// Lets go of the page shown without touching it: it is being destroyed.
+    void forgetPage();
 
 Q_SIGNALS:
     /// A press outside the popup, before the popup closes on it. The receiver
