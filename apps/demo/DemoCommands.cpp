@@ -53,6 +53,8 @@ QAction* DemoCommands::add(int id, IconPainter::Glyph glyph, const QString& text
     const QIcon icon = IconPainter::icon(glyph);
     QAction* action = persistent ? m_registry->addPersistentCommand(icon, text, id)
                                  : m_registry->addCommand(icon, text, id);
+    // The quick access editor tells commands apart by object name.
+    action->setObjectName(QStringLiteral("cmd.") + QString::number(id));
     if (!shortcut.isEmpty())
         action->setShortcut(shortcut);
     if (!tip.isEmpty())
