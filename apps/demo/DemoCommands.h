@@ -122,6 +122,7 @@ public:
         ToolsTrimSpaces,
         ToolsAutoSave,
         ToolsKeyboardShortcuts,
+        ToolsCustomize,
 
         HelpContents = 701,
         HelpAbout,

@@ -25,7 +25,7 @@ DemoMenus::DemoMenus(DemoCommands& commands)
     buildInsert();
     buildFormat();
     addToMenu(m_categories[Tools], {C::ToolsWordCount, 0, C::ToolsSortLines, C::ToolsTrimSpaces, 0, C::ToolsAutoSave,
-                                    0, C::ToolsKeyboardShortcuts});
+                                    0, C::ToolsKeyboardShortcuts, C::ToolsCustomize});
     addToMenu(m_categories[Help], {C::HelpContents, 0, C::HelpAbout, C::HelpAboutQt});
 }
 

@@ -147,6 +147,8 @@ void RibbonBuilder::addSystemMenu()
     QAction* shortcuts = m_commands->action(C::ToolsKeyboardShortcuts);
     QObject::connect(options, &QAction::triggered, shortcuts, &QAction::trigger);
     m_ribbon->addPopupBarAction(options);
+    if (QAction* customize = m_commands->action(C::ToolsCustomize))
+        m_ribbon->addPopupBarAction(customize);
     if (QAction* exit = m_commands->action(C::FileExit))
         m_ribbon->addPopupBarAction(exit);
 }
@@ -238,7 +240,7 @@ void RibbonBuilder::addToolsPage()
     Qtitan::RibbonGroup* saving = tools->addGroup(tr("Saving"));
     addCommands(saving, {C::ToolsAutoSave, C::FileSaveAll}, Qt::ToolButtonTextUnderIcon);
     Qtitan::RibbonGroup* customize = tools->addGroup(tr("Customize"));
-    addCommands(customize, {C::ToolsKeyboardShortcuts}, Qt::ToolButtonTextUnderIcon);
+    addCommands(customize, {C::ToolsKeyboardShortcuts, C::ToolsCustomize}, Qt::ToolButtonTextUnderIcon);
 }
 
 void RibbonBuilder::addHelpPage()

@@ -1,7 +1,6 @@
 #include "DemoRibbonSerializer.h"
 
 #include "DemoCommands.h"
-#include "DemoSettings.h"
 
 #include <tessaro/RibbonBar.h>
 
@@ -47,25 +46,6 @@ QAction* DemoRibbonSerializer::getAction(const QString& id) const
     if (id.startsWith(ribbonPrefix))
         return m_ribbon->findChild<QAction*>(id, Qt::FindDirectChildrenOnly);
     return nullptr;
-}
-
-bool DemoRibbonSerializer::restoreFrom(const DemoSettings& settings)
-{
-    const QByteArray layout = settings.value(layoutKey).toByteArray();
-    const QByteArray quickBar = settings.value(quickBarKey).toByteArray();
-    if (layout.isEmpty())
-        return false;
-    const bool restored = restore(layout);
-    if (!quickBar.isEmpty())
-        restoreQuickBar(quickBar);
-    m_ribbon->setCurrentPageIndex(0);
-    return restored;
-}
-
-void DemoRibbonSerializer::saveTo(DemoSettings& settings)
-{
-    settings.setValue(layoutKey, save());
-    settings.setValue(quickBarKey, saveQuickBar());
 }
 
 } // namespace demo

@@ -5,7 +5,6 @@
 #include <QString>
 
 class DemoCommands;
-class DemoSettings;
 
 namespace ui {
 class RibbonBar;
@@ -26,12 +25,6 @@ public:
     /// The settings keys of the stored layout and quick access bar.
     static const QString layoutKey;
     static const QString quickBarKey;
-
-    /// Rebuilds the ribbon and its quick access bar from \a settings; false
-    /// (the ribbon as built) when nothing is stored.
-    bool restoreFrom(const DemoSettings& settings);
-    /// Writes the ribbon and its quick access bar to \a settings.
-    void saveTo(DemoSettings& settings);
 
 protected:
     QString getActionID(QAction* action) override;

@@ -27,6 +27,8 @@ void addToolsCommands(DemoCommands& c)
           T::tr("Save documents that have a file every 30 seconds"), true);
     c.add(C::ToolsKeyboardShortcuts, G::Keyboard, T::tr("&Keyboard Shortcuts…"), QKeySequence(),
           T::tr("Change the key combinations of the commands"));
+    c.add(C::ToolsCustomize, G::Customize, T::tr("&Customize…"), QKeySequence(),
+          T::tr("Arrange the ribbon, the quick access bar and the toolbars"));
 }
 
 void countWords(DemoWindow* window, DemoDocument* doc)
@@ -59,4 +61,5 @@ void DemoToolsCommands::registerCommands(DemoCommands& c)
     c.registry()->ConnectCommand(C::ToolsKeyboardShortcuts, [&c, window] {
         DemoShortcutsDialog::editShortcuts(c.menus().root(), window->settings(), window);
     });
+    c.registry()->ConnectCommand(C::ToolsCustomize, [window] { window->customize(); });
 }

@@ -5,7 +5,7 @@
 class DemoCommands;
 
 /// The Tools commands: word count, sort lines, trim trailing spaces, auto
-/// save and the keyboard shortcuts window.
+/// save, the keyboard shortcuts window and the Customize window.
 class DemoToolsCommands
 {
     Q_DECLARE_TR_FUNCTIONS(DemoToolsCommands)

@@ -84,9 +84,17 @@ void connectWindowView(DemoCommands& c)
 {
     ui::CommandsRegistry* registry = c.registry();
     DemoWindow* window = c.window();
+    // A tool bar the user removed in Customize leaves its command disabled.
     const auto toggleWidget = [registry](int id, const std::function<QWidget*()>& widget) {
-        registry->ConnectCommand(id, [widget] { widget()->setVisible(widget()->isHidden()); });
-        registry->ConnectCommandUI(id, [widget](ui::CommandState& state) { state.setChecked(!widget()->isHidden()); });
+        registry->ConnectCommand(id, [widget] {
+            if (QWidget* shown = widget())
+                shown->setVisible(shown->isHidden());
+        });
+        registry->ConnectCommandUI(id, [widget](ui::CommandState& state) {
+            QWidget* shown = widget();
+            state.setEnabled(shown != nullptr);
+            state.setChecked(shown && !shown->isHidden());
+        });
     };
     toggleWidget(C::ViewToolBarStandard, [window] { return window->standardToolBar(); });
     toggleWidget(C::ViewToolBarFormat, [window] { return window->formatToolBar(); });

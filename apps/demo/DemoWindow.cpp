@@ -3,6 +3,7 @@
 #include "DemoAutoSave.h"
 #include "DemoClassicMenuBar.h"
 #include "DemoCommands.h"
+#include "DemoCustomizeWindow.h"
 #include "DemoDocument.h"
 #include "DemoDocumentArea.h"
 #include "DemoFiles.h"
@@ -34,6 +35,13 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+namespace {
+
+const QString standardToolBarName = QStringLiteral("standardToolBar");
+const QString formatToolBarName = QStringLiteral("formatToolBar");
+
+} // namespace
+
 DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo::ShellOptions& shell)
     : ui::MainWindow(parent)
     , m_settings(std::make_unique<DemoSettings>(settingsFile))
@@ -52,6 +60,7 @@ DemoWindow::DemoWindow(const QString& settingsFile, QWidget* parent, const demo:
     createToolBars();
     createStatusBar();
     m_quickSearch = new DemoQuickSearch(this);
+    m_defaultLayout = DemoCustomLayout::of(*this);
     DemoWindowLayout::restore(*this);
     // Searched where the restored ribbon (or the menu bar) shows the commands.
     m_quickSearch->refresh();
@@ -109,25 +118,28 @@ void DemoWindow::createToolBars()
         }
     };
     using C = DemoCommands;
-    m_standardToolBar = addToolBar(tr("Standard"));
-    m_standardToolBar->setObjectName(QStringLiteral("standardToolBar"));
-    fill(m_standardToolBar, {C::FileNew, C::FileOpen, C::FileSave, 0, C::EditUndo, C::EditRedo, 0, C::EditCut,
+    QToolBar* standard = addToolBar(tr("Standard"));
+    standard->setObjectName(standardToolBarName);
+    fill(standard, {C::FileNew, C::FileOpen, C::FileSave, 0, C::EditUndo, C::EditRedo, 0, C::EditCut,
                              C::EditCopy, C::EditPaste, 0, C::EditFind, C::EditReplace, 0, C::ViewZoomIn,
                              C::ViewZoomOut, C::ViewRuler, 0, C::InsertTable, C::InsertImage, C::InsertDate, 0,
                              C::ToolsWordCount, C::HelpContents});
-    m_formatToolBar = addToolBar(tr("Formatting"));
-    m_formatToolBar->setObjectName(QStringLiteral("formatToolBar"));
-    m_formatToolBar->addAction(new DemoFontFamilyAction(m_commands, m_formatToolBar));
-    m_formatToolBar->addSeparator();
-    fill(m_formatToolBar, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, 0,
+    QToolBar* format = addToolBar(tr("Formatting"));
+    format->setObjectName(formatToolBarName);
+    // The window owns the box, so that any tool bar the user arranges can show it.
+    auto* fontFamily = new DemoFontFamilyAction(m_commands, this);
+    fontFamily->setObjectName(QStringLiteral("toolbar.fontFamily"));
+    format->addAction(fontFamily);
+    format->addSeparator();
+    fill(format, {C::FormatBold, C::FormatItalic, C::FormatUnderline, C::FormatStrikeOut, 0,
                            C::FormatSuperscript, C::FormatSubscript, C::FormatHighlight, 0, C::FormatAlignLeft,
                            C::FormatAlignCenter, C::FormatAlignRight, C::FormatAlignJustify, 0, C::FormatOutdent,
                            C::FormatIndent, 0, C::InsertBulletList, C::InsertNumberedList, 0, C::FormatGrowFont,
                            C::FormatShrinkFont, C::FormatClear});
     // The ribbon already shows these commands; the tool bars are there on request.
     if (!m_classic) {
-        m_standardToolBar->hide();
-        m_formatToolBar->hide();
+        standard->hide();
+        format->hide();
     }
 }
 
@@ -170,6 +182,27 @@ void DemoWindow::closeEvent(QCloseEvent* event)
     }
     saveSettings();
     event->accept();
+}
+
+// Found by name: Customize may remove them, and Cancel or a restart make them anew.
+QToolBar* DemoWindow::standardToolBar() const
+{
+    return findChild<QToolBar*>(standardToolBarName, Qt::FindDirectChildrenOnly);
+}
+
+QToolBar* DemoWindow::formatToolBar() const
+{
+    return findChild<QToolBar*>(formatToolBarName, Qt::FindDirectChildrenOnly);
+}
+
+QList<QToolBar*> DemoWindow::toolBars() const
+{
+    return findChildren<QToolBar*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void DemoWindow::customize()
+{
+    DemoCustomizeWindow::showFor(this);
 }
 
 DemoDocument* DemoWindow::activeDocument() const

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "DemoCustomLayout.h"
 #include "DemoDocks.h"
 #include "DemoShellOptions.h"
 
 #include <tessaro/MainWindow.h>
+
 
 #include <memory>
 
@@ -58,8 +60,18 @@ public:
     DemoFindBar* findBar() const { return m_findBar; }
     /// The quick search box in the status bar.
     DemoQuickSearch* quickSearch() const { return m_quickSearch; }
-    QToolBar* standardToolBar() const { return m_standardToolBar; }
-    QToolBar* formatToolBar() const { return m_formatToolBar; }
+    /// The built-in tool bars; null once the user removed them in Customize.
+    QToolBar* standardToolBar() const;
+    QToolBar* formatToolBar() const;
+    /// Every classic tool bar of the window, the built-in ones first, then
+    /// those the user added in Customize, in the order they were made.
+    QList<QToolBar*> toolBars() const;
+    /// The ribbon, quick access bar and tool bars as built, before the
+    /// settings gave the user's; what Reset in Customize returns to.
+    const DemoCustomLayout& defaultLayout() const { return m_defaultLayout; }
+    /// Opens the Customize window (or raises the one open) at the ribbon's
+    /// tab, or at the toolbars tab in classic mode.
+    void customize();
     void showMessage(const QString& text, int timeout = 4000);
     /// A non-blocking message box.
     void information(const QString& title, const QString& text);
@@ -104,8 +116,7 @@ private:
     demo::StyleMenu* m_styleMenu = nullptr;
     DemoFindBar* m_findBar = nullptr;
     DemoQuickSearch* m_quickSearch = nullptr;
-    QToolBar* m_standardToolBar = nullptr;
-    QToolBar* m_formatToolBar = nullptr;
+    DemoCustomLayout m_defaultLayout;
     QLabel* m_positionLabel = nullptr;
     QLabel* m_wordsLabel = nullptr;
     QLabel* m_zoomLabel = nullptr;

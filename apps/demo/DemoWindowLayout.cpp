@@ -1,7 +1,7 @@
 #include "DemoWindowLayout.h"
 
 #include "DemoCommands.h"
-#include "DemoRibbonSerializer.h"
+#include "DemoCustomLayout.h"
 #include "DemoSettings.h"
 #include "DemoShortcutSettings.h"
 #include "DemoStyles.h"
@@ -42,10 +42,9 @@ ui::RibbonBar* ribbonOf(DemoWindow& window)
 void DemoWindowLayout::restore(DemoWindow& window)
 {
     DemoSettings& settings = window.settings();
-    if (ui::RibbonBar* ribbon = ribbonOf(window)) {
-        demo::DemoRibbonSerializer(ribbon, window.commands()).restoreFrom(settings);
+    DemoCustomLayout::stored(settings).applyTo(window);
+    if (ui::RibbonBar* ribbon = ribbonOf(window))
         ribbon->setMinimized(settings.value(ribbonMinimizedKey, false).toBool());
-    }
     const QByteArray geometry = settings.value(geometryKey).toByteArray();
     if (geometry.isEmpty() || !window.restoreGeometry(geometry))
         placeFirstTime(window);
@@ -55,10 +54,9 @@ void DemoWindowLayout::restore(DemoWindow& window)
 void DemoWindowLayout::save(DemoWindow& window)
 {
     DemoSettings& settings = window.settings();
-    if (ui::RibbonBar* ribbon = ribbonOf(window)) {
-        demo::DemoRibbonSerializer(ribbon, window.commands()).saveTo(settings);
+    DemoCustomLayout::of(window).store(settings);
+    if (ui::RibbonBar* ribbon = ribbonOf(window))
         settings.setValue(ribbonMinimizedKey, ribbon->isMinimized());
-    }
     settings.setValue(geometryKey, window.saveGeometry());
     settings.setValue(windowStateKey(window), window.saveState());
 }
@@ -66,7 +64,7 @@ void DemoWindowLayout::save(DemoWindow& window)
 void DemoWindowLayout::reset(DemoSettings& settings)
 {
     for (const QString& key : {geometryKey, ribbonWindowStateKey, classicWindowStateKey, ribbonMinimizedKey,
-                               demo::DemoRibbonSerializer::layoutKey, demo::DemoRibbonSerializer::quickBarKey,
                                demo::styleKey, DemoShortcutSettings::settingsKey})
         settings.remove(key);
+    DemoCustomLayout::forget(settings);
 }

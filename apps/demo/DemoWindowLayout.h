@@ -6,9 +6,10 @@ class DemoSettings;
 class DemoWindow;
 
 /// What the user arranges in the demo's window, kept in the settings between
-/// runs: the window's geometry, its tool bars and panels (kept apart for the
-/// ribbon and for the classic menu bar, which start with different tool bars),
-/// and the ribbon's layout, quick access bar and minimised state.
+/// runs: the window's geometry, where its tool bars and panels stand (kept
+/// apart for the ribbon and for the classic menu bar, which start with
+/// different tool bars), what the ribbon, its quick access bar and the tool
+/// bars hold (DemoCustomLayout), and the ribbon's minimised state.
 ///
 /// The style and the shortcuts are kept where the user chooses them
 /// (DemoStyles, DemoShortcutSettings); reset() forgets those as well, so that

@@ -432,6 +432,21 @@ void paintCommandGlyph(QPainter& p, IconPainter::Glyph glyph, const QColor& acce
         p.drawRect(QRectF(4, 9.5, 8, 1.3));
         p.restore();
         break;
+    case G::Customize:
+        // A window whose ribbon strip is being rearranged with a pencil.
+        windowFrame(p);
+        fill(p, 4, 11, 25, 6, blueLight);
+        fill(p, 6, 12, 6, 4, blue);
+        fill(p, 14, 12, 6, 4, grey);
+        p.save();
+        p.translate(22, 22);
+        p.rotate(45);
+        fill(p, -2.5, -10, 5, 13, orange);
+        p.setPen(Qt::NoPen);
+        p.setBrush(ink);
+        p.drawPolygon(QPolygonF({QPointF(-2.5, 3), QPointF(2.5, 3), QPointF(0, 8)}));
+        p.restore();
+        break;
     case G::Help:
     case G::About:
         p.setPen(Qt::NoPen);

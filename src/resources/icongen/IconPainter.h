@@ -39,7 +39,7 @@ public:
         Bold, Italic, Underline, StrikeOut, Superscript, Subscript, AlignLeft, AlignCenter,
         AlignRight, AlignJustify, Indent, Outdent, GrowFont, ShrinkFont, FontSize, Font, ClearFormat,
         Highlight, TextColor,
-        WordCount, SortLines, TrimSpaces, AutoSave, Keyboard,
+        WordCount, SortLines, TrimSpaces, AutoSave, Keyboard, Customize,
         Help, About, AboutQt,
         GlyphCount
     };

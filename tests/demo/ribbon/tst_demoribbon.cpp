@@ -133,7 +133,9 @@ void tst_DemoRibbon::builtRibbon()
     QCOMPARE(system->text(), QObject::tr("File"));
     QVERIFY(system->menu()->actions().contains(window.commands()->action(DemoCommands::FileOpen)));
     auto* menu = qobject_cast<Qtitan::RibbonSystemMenu*>(system->menu());
-    QCOMPARE(menu->popupBarActions().size(), 2);
+    // Options, Customize… and Exit along the bottom.
+    QCOMPARE(menu->popupBarActions().size(), 3);
+    QCOMPARE(menu->popupBarActions().at(1), window.commands()->action(DemoCommands::ToolsCustomize));
     QCOMPARE(menu->popupBarActions().last(), window.commands()->action(DemoCommands::FileExit));
 }
 

@@ -1,0 +1,132 @@
+#include "DemoCustomizeWindow.h"
+
+#include "DemoCustomizeHandler.h"
+#include "DemoQuickSearch.h"
+#include "DemoWindow.h"
+
+#include <tessaro/MenuTreeWidget.h>
+#include <tessaro/QCustomizeDlg.h>
+#include <tessaro/QToolBarPage.h>
+
+#include <QAbstractItemModel>
+#include <QDialogButtonBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace {
+
+const int ribbonTab = 1;
+
+} // namespace
+
+DemoCustomizeWindow* DemoCustomizeWindow::showFor(DemoWindow* window)
+{
+    auto* customize = window->findChild<DemoCustomizeWindow*>(QString(), Qt::FindDirectChildrenOnly);
+    if (!customize) {
+        customize = new DemoCustomizeWindow(window);
+        customize->open();
+    }
+    customize->raise();
+    customize->activateWindow();
+    return customize;
+}
+
+DemoCustomizeWindow::DemoCustomizeWindow(DemoWindow* window)
+    : QDialog(window)
+    , m_window(window)
+    , m_opened(DemoCustomLayout::of(*window))
+{
+    setObjectName(QStringLiteral("demoCustomize"));
+    setWindowTitle(tr("Customize"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowModality(Qt::WindowModal);
+    m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Reset, this);
+    m_buttons->button(QDialogButtonBox::Reset)->setToolTip(
+        tr("Return the ribbon, the quick access bar and the toolbars to those the demo starts with"));
+    connect(m_buttons, &QDialogButtonBox::accepted, this, &DemoCustomizeWindow::accept);
+    connect(m_buttons, &QDialogButtonBox::rejected, this, &DemoCustomizeWindow::reject);
+    connect(m_buttons->button(QDialogButtonBox::Reset), &QPushButton::clicked, this, &DemoCustomizeWindow::reset);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_buttons);
+    buildDialog(window->ribbonBar() ? ribbonTab : 0);
+    resize(960, 620);
+}
+
+DemoCustomizeWindow::~DemoCustomizeWindow() = default;
+
+void DemoCustomizeWindow::accept()
+{
+    DemoCustomizeHandler(m_window).applyLayout();
+    m_window->quickSearch()->refresh();
+    QDialog::accept();
+}
+
+void DemoCustomizeWindow::reject()
+{
+    // The dialog's trees point into the ribbon that is about to be rebuilt.
+    delete m_customize;
+    m_customize = nullptr;
+    m_opened.applyTo(*m_window);
+    m_window->quickSearch()->refresh();
+    QDialog::reject();
+}
+
+void DemoCustomizeWindow::reset()
+{
+    const int tab = m_customize->currentTabIndex();
+    delete m_customize;
+    m_customize = nullptr;
+    DemoCustomizeHandler(m_window).resetLayout();
+    buildDialog(tab);
+}
+
+void DemoCustomizeWindow::buildDialog(int tab)
+{
+    m_customize = new ui::QCustomizeDlg(this);
+    m_customize->setHandler(new DemoCustomizeHandler(m_window));
+    placeToolBarPage();
+    m_customize->setCurrentTabIndex(tab);
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, m_customize, 1);
+}
+
+// The demo's commands take the place of the tab's own list, the page goes
+// beside them; a double-click on a command adds it to the selected tool bar.
+void DemoCustomizeWindow::placeToolBarPage()
+{
+    m_toolBarPage = new ui::QToolBarPage;
+    m_toolBarPage->setToolBars(m_window->toolBars());
+    m_customize->getLayout()->addWidget(m_toolBarPage);
+
+    QTreeWidget* list = m_customize->getTreeWidget();
+    m_toolBarCommands = new MenuTreeWidget(nullptr, DemoCustomizeHandler(m_window).menu());
+    m_toolBarCommands->setObjectName(QStringLiteral("toolBarCommands"));
+    m_toolBarCommands->setHeaderHidden(true);
+    delete list->parentWidget()->layout()->replaceWidget(list, m_toolBarCommands);
+    list->hide();
+    m_customize->getSplitter()->setSizes({300, 640});
+    connect(m_toolBarCommands, &MenuTreeWidget::currentActionChanged, m_toolBarPage,
+            &ui::QToolBarPage::setCurrentCommand);
+    connect(m_toolBarCommands, &MenuTreeWidget::actionDoubleClicked, m_toolBarPage,
+            &ui::QToolBarPage::fromDoubleClick);
+
+    // A tool bar added on the page joins the window once the page is done with it.
+    auto* toolBarList = m_toolBarPage->findChild<QListWidget*>(QStringLiteral("toolBarList"));
+    connect(toolBarList->model(), &QAbstractItemModel::rowsInserted, this, &DemoCustomizeWindow::dockNewToolBars,
+            Qt::QueuedConnection);
+}
+
+void DemoCustomizeWindow::dockNewToolBars()
+{
+    if (!m_toolBarPage)
+        return;
+    for (QToolBar* toolBar : m_toolBarPage->toolBars()) {
+        if (!toolBar->parent()) {
+            m_window->addToolBar(toolBar);
+            toolBar->show();
+        }
+    }
+}
