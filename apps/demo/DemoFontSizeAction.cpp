@@ -1,10 +1,20 @@
 #include "DemoFontSizeAction.h"
 
 #include "DemoCommands.h"
+#include "DemoDocument.h"
+#include "DemoWindow.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QIntValidator>
+#include <QLineEdit>
 #include <QSignalBlocker>
+
+namespace {
+
+const int largestSize = 400;
+
+} // namespace
 
 DemoFontSizeAction::DemoFontSizeAction(DemoCommands* commands, QObject* parent)
     : QWidgetAction(parent)
@@ -12,10 +22,12 @@ DemoFontSizeAction::DemoFontSizeAction(DemoCommands* commands, QObject* parent)
 {
     setObjectName(QStringLiteral("ribbon.fontSize"));
     setText(tr("Font Size"));
-    // The registry refreshes the size commands as the cursor moves or the
-    // document becomes read-only; the box follows them.
+    // The registry refreshes the size commands as the document becomes
+    // read-only; the cursor's moves come from the document itself.
     for (QAction* size : sizeCommands())
         connect(size, &QAction::changed, this, &DemoFontSizeAction::showCurrent);
+    connect(commands->window(), &DemoWindow::activeDocumentChanged, this, &DemoFontSizeAction::follow);
+    follow(commands->document());
 }
 
 QList<QAction*> DemoFontSizeAction::sizeCommands() const
@@ -32,6 +44,10 @@ QWidget* DemoFontSizeAction::createWidget(QWidget* parent)
 {
     auto* box = new QComboBox(parent);
     box->setToolTip(tr("Font size"));
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setValidator(new QIntValidator(1, largestSize, box));
+    box->setMinimumContentsLength(3);
     for (QAction* size : sizeCommands())
         box->addItem(size->text().remove(QStringLiteral(" pt")), size->data());
     DemoCommands* commands = m_commands;
@@ -39,24 +55,45 @@ QWidget* DemoFontSizeAction::createWidget(QWidget* parent)
         if (QAction* size = commands->action(box->itemData(index).toInt()))
             size->trigger();
     });
+    connect(box->lineEdit(), &QLineEdit::returnPressed, box, [this, box] { apply(box->currentText()); });
     QMetaObject::invokeMethod(this, &DemoFontSizeAction::showCurrent, Qt::QueuedConnection);
     return box;
+}
+
+void DemoFontSizeAction::follow(DemoDocument* document)
+{
+    if (m_document)
+        disconnect(m_document, nullptr, this, nullptr);
+    m_document = document;
+    if (document)
+        connect(document, &QTextEdit::currentCharFormatChanged, this, &DemoFontSizeAction::showCurrent);
+    showCurrent();
 }
 
 void DemoFontSizeAction::showCurrent()
 {
     const QList<QAction*> sizes = sizeCommands();
-    const bool enabled = !sizes.isEmpty() && sizes.first()->isEnabled();
-    int checked = -1;
-    for (int i = 0; i < sizes.size(); ++i) {
-        if (sizes.at(i)->isChecked())
-            checked = i;
-    }
+    const bool enabled = m_document && !sizes.isEmpty() && sizes.first()->isEnabled();
+    const QString current = m_document ? QString::number(qRound(m_document->currentPointSize())) : QString();
     for (QWidget* widget : createdWidgets()) {
-        if (auto* box = qobject_cast<QComboBox*>(widget)) {
-            const QSignalBlocker blocker(box);
-            box->setEnabled(enabled);
-            box->setCurrentIndex(checked);
-        }
+        auto* box = qobject_cast<QComboBox*>(widget);
+        // Not while the user is typing a size into it.
+        if (!box || box->hasFocus())
+            continue;
+        const QSignalBlocker blocker(box);
+        box->setEnabled(enabled);
+        box->setCurrentIndex(box->findText(current));
+        box->setEditText(current);
     }
+}
+
+void DemoFontSizeAction::apply(const QString& typed)
+{
+    const int size = typed.toInt();
+    if (!m_document || size < 1 || size > largestSize)
+        return;
+    QTextCharFormat format;
+    format.setFontPointSize(size);
+    m_document->mergeFormat(tr("font size"), format);
+    m_document->setFocus();
 }

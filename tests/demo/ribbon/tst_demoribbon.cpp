@@ -15,6 +15,7 @@
 
 #include <QComboBox>
 #include <QFontComboBox>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QWidgetAction>
 #include <QtTest>
@@ -105,6 +106,7 @@ private slots:
     void textColorNeverLooksPressed();
     void fontBoxesFollowTheCursorAndApply();
     void fontSizeCountsHeadingsAndIgnoresZoom();
+    void fontSizeTypedIntoTheBoxApplies();
 };
 
 void tst_DemoRibbon::builtRibbon()
@@ -376,6 +378,8 @@ void tst_DemoRibbon::fontSizeCountsHeadingsAndIgnoresZoom()
     doc->setTextCursor(cursor);
     QTRY_COMPARE(sizeBox->currentIndex(), -1);
     QCOMPARE(doc->currentPointSize(), 22.0);
+    // Shown all the same.
+    QCOMPARE(sizeBox->currentText(), QStringLiteral("22"));
     // Grow Font steps from the heading's size, not from the body's.
     window.commands()->action(C::FormatGrowFont)->trigger();
     QTextCursor probe(doc->document());
@@ -388,6 +392,42 @@ void tst_DemoRibbon::fontSizeCountsHeadingsAndIgnoresZoom()
     doc->setZoom(200);
     QCOMPARE(doc->currentPointSize(), 11.0);
     QTRY_COMPARE(sizeBox->currentText(), QStringLiteral("11"));
+}
+
+void tst_DemoRibbon::fontSizeTypedIntoTheBoxApplies()
+{
+    QTemporaryDir dir;
+    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
+    DemoDocument* doc = window.commands()->files()->newDocument();
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    ui::RibbonBar* ribbon = ribbonOf(window);
+    auto* sizeBox = group(ribbon, QStringLiteral("Font"))
+                        ->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))
+                        ->findChild<QComboBox*>();
+    QVERIFY(sizeBox && sizeBox->isEditable());
+    doc->setPlainText(QStringLiteral("some words"));
+    QTextCursor cursor = doc->textCursor();
+    cursor.setPosition(2);
+    doc->setTextCursor(cursor);
+    QTRY_COMPARE(sizeBox->currentText(), QStringLiteral("11"));
+
+    // A size the list lacks; the box takes digits only.
+    sizeBox->setFocus();
+    sizeBox->lineEdit()->selectAll();
+    QTest::keyClicks(sizeBox->lineEdit(), QStringLiteral("15x"));
+    QCOMPARE(sizeBox->currentText(), QStringLiteral("15"));
+    QTest::keyClick(sizeBox->lineEdit(), Qt::Key_Return);
+    QTextCursor probe(doc->document());
+    probe.setPosition(2);
+    QCOMPARE(probe.charFormat().fontPointSize(), 15.0);
+    // Typing goes on in the document.
+    QCOMPARE(QApplication::focusWidget(), doc);
+    // Beyond the largest size the box takes no more digits.
+    sizeBox->setFocus();
+    sizeBox->lineEdit()->selectAll();
+    QTest::keyClicks(sizeBox->lineEdit(), QStringLiteral("4001"));
+    QCOMPARE(sizeBox->currentText(), QStringLiteral("400"));
 }
 
 QTEST_MAIN(tst_DemoRibbon)
