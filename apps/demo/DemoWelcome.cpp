@@ -2,7 +2,7 @@
 
 namespace {
 
-enum Path { UndoPath, ZoomLevelsPath, FontSizesPath, RulerPath, ShortcutsPath };
+enum Path { UndoPath, ZoomLevelsPath, FontSizesPath, RulerPath, ShortcutsPath, CustomizePath };
 
 QString shown(const QStringList& path)
 {
@@ -23,13 +23,15 @@ QList<QStringList> DemoWelcome::paths(bool classic)
                 {tr("View"), tr("Zoom")},
                 {tr("Format"), tr("Font Size")},
                 {tr("View"), tr("Hide Ruler")},
-                {tr("Tools"), tr("Keyboard Shortcuts…")}};
+                {tr("Tools"), tr("Keyboard Shortcuts…")},
+                {tr("Tools"), tr("Customize…")}};
     }
     return {{tr("Home"), tr("Undo"), tr("Undo")},
             {tr("View"), tr("Zoom"), tr("Zoom Level")},
             {tr("Home"), tr("Font"), tr("Font Size")},
             {tr("View"), tr("Show"), tr("Hide Ruler")},
-            {tr("File"), tr("Options")}};
+            {tr("File"), tr("Options")},
+            {tr("Tools"), tr("Customize"), tr("Customize…")}};
 }
 
 QString DemoWelcome::html(bool classic)
@@ -50,9 +52,11 @@ QString DemoWelcome::html(bool classic)
                 "<li>Type a few letters of any command into the search box at the right of the status bar "
                 "(<b>Ctrl+Q</b>) and pick it from the list.</li>"
                 "<li>Give a command a new key in %5. The shortcuts, tool bars, panels, style and ribbon are "
-                "kept for the next start; <b>--reset-layout</b> forgets them.</li></ul>")
+                "kept for the next start; <b>--reset-layout</b> forgets them.</li>"
+                "<li>Reshape the ribbon, the quick access bar and the tool bars in %6: the window shows each "
+                "change at once.</li></ul>")
                  .arg(shown(path.at(UndoPath)), shown(path.at(ZoomLevelsPath)), shown(path.at(FontSizesPath)),
-                      shown(path.at(RulerPath)), shown(path.at(ShortcutsPath)))
+                      shown(path.at(RulerPath)), shown(path.at(ShortcutsPath)), shown(path.at(CustomizePath)))
            + (classic ? tr("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
                            "<tr><th>Menu</th><th>Examples</th></tr>"
                            "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"

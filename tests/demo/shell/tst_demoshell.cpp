@@ -400,7 +400,7 @@ void tst_DemoShell::welcomeTextIsTrueInBothModes()
     const QString html = DemoWelcome::html(classic);
     QCOMPARE(window.activeDocument()->toPlainText(), QTextDocumentFragment::fromHtml(html).toPlainText());
     const QList<QStringList> paths = DemoWelcome::paths(classic);
-    QCOMPARE(paths.size(), 5);
+    QCOMPARE(paths.size(), 6);
     for (const QStringList& path : paths) {
         QVERIFY2(html.contains(path.join(QStringLiteral(" &rsaquo; "))), qPrintable(path.join(QLatin1Char('>'))));
         QVERIFY2(follow(window, path), qPrintable(path.join(QStringLiteral(" > "))));
