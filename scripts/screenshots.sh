@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# Renders the demo pictures under docs/screenshots from a build tree:
+# Renders every picture under docs/screenshots from a build tree:
 #   scripts/screenshots.sh [BUILD_DIR]      (default: build)
-# Each picture starts from fresh settings, on a 1600x1000 X server.
+# The demo's windows start from fresh settings on a 1600x1000 X server; the
+# editors and the style sheet are drawn by their tests.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-demo="${1:-build}/apps/demo/tessaro-demo"
+build="${1:-build}"
+demo="$build/apps/demo/tessaro-demo"
 out=docs/screenshots
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
@@ -18,8 +20,23 @@ shoot() {
     echo "$out/$name"
 }
 
+# Runs one test function that saves a picture when its variable names a place;
+# the editors are drawn on the same X server as the demo's windows.
+draw() {
+    local name=$1 test=$2 function=$3 variable=$4 value=$5
+    env "$variable=$value" xvfb-run -a -s "-screen 0 1600x1000x24" "$build/tests/$test" "$function" > /dev/null
+    echo "$out/$name"
+}
+
 shoot demo-office2016.png --style 40 --size 1200x760
 shoot demo-office2007.png --style 10 --size 1200x760
 shoot demo-photoshop-darkgray.png --style 52 --size 1200x760
 shoot demo-classic-office2013.png --classic --style 30 --size 1200x760
 shoot quick-search.png --search "font" --size 1200x760
+draw ribbon-editor.png customize/ribbon/tst_ribboneditorlook editorOverTheDemoRibbon TESSARO_SCREENSHOT_DIR "$out"
+draw quick-access-editor.png customize/quickpanel/tst_quickpanelwidget screenshot TESSARO_SCREENSHOT_DIR "$out"
+draw "customize-*-tab.png" customize/tst_customizedlg screenshots TESSARO_SCREENSHOT_DIR "$out"
+draw "demo-customize-*.png" demo/customize/tst_democustomize screenshots TESSARO_SCREENSHOT_DIR "$out"
+# The style sheet is drawn offscreen, as the README says.
+TESSARO_STYLE_SHEET="$out/styles.png" QT_QPA_PLATFORM=offscreen "$build/tests/qtitan/bar/tst_qtitanthemes" referenceSheet > /dev/null
+echo "$out/styles.png"
