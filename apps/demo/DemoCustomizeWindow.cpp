@@ -12,6 +12,7 @@
 #include <QDialogButtonBox>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -28,6 +29,7 @@ DemoCustomizeWindow* DemoCustomizeWindow::showFor(DemoWindow* window)
     auto* customize = window->findChild<DemoCustomizeWindow*>(QString(), Qt::FindDirectChildrenOnly);
     if (!customize) {
         customize = new DemoCustomizeWindow(window);
+        customize->placeBelowRibbon();
         customize->open();
     }
     customize->raise();
@@ -57,6 +59,21 @@ DemoCustomizeWindow::DemoCustomizeWindow(DemoWindow* window)
 }
 
 DemoCustomizeWindow::~DemoCustomizeWindow() = default;
+
+// Centred on the window but below its ribbon, so that the user watches the
+// ribbon change; kept on the screen.
+void DemoCustomizeWindow::placeBelowRibbon()
+{
+    QWidget* top = m_window->menuWidget();
+    const int below = top ? top->mapToGlobal(QPoint(0, top->height())).y() + 8 : m_window->y();
+    QRect frame(QPoint(), size());
+    frame.moveCenter(m_window->frameGeometry().center());
+    frame.moveTop(below);
+    const QRect screen = m_window->screen()->availableGeometry();
+    frame.moveBottom(qMin(frame.bottom(), screen.bottom()));
+    frame.moveTop(qMax(frame.top(), screen.top()));
+    move(frame.topLeft());
+}
 
 void DemoCustomizeWindow::accept()
 {
@@ -123,10 +140,16 @@ void DemoCustomizeWindow::dockNewToolBars()
 {
     if (!m_toolBarPage)
         return;
-    for (QToolBar* toolBar : m_toolBarPage->toolBars()) {
-        if (!toolBar->parent()) {
-            m_window->addToolBar(toolBar);
-            toolBar->show();
-        }
+    // The page lists a new tool bar unchecked; checking its row (through the
+    // page, which enables the tool bar) says what the window shows: it is on.
+    auto* list = m_toolBarPage->findChild<QListWidget*>(QStringLiteral("toolBarList"));
+    const QList<QToolBar*> toolBars = m_toolBarPage->toolBars();
+    for (int row = 0; row < toolBars.size(); ++row) {
+        QToolBar* toolBar = toolBars.at(row);
+        if (toolBar->parent())
+            continue;
+        m_window->addToolBar(toolBar);
+        toolBar->show();
+        list->item(row)->setCheckState(Qt::Checked);
     }
 }

@@ -50,6 +50,7 @@ public:
     void reset();
 
 private:
+    void placeBelowRibbon();
     void buildDialog(int tab);
     void placeToolBarPage();
     void dockNewToolBars();

@@ -398,7 +398,14 @@ void tst_DemoCustomize::toolBarAddedOnThePageJoinsTheWindowAtOnce()
     QToolBar* added = nullptr;
     QTRY_VERIFY((added = window->findChild<QToolBar*>(QStringLiteral("1"), Qt::FindDirectChildrenOnly)));
     QVERIFY(added->isVisible());
+    QVERIFY(added->isEnabled());
     QCOMPARE(window->toolBarArea(added), Qt::TopToolBarArea);
+    // Its row says so.
+    auto* list = form.page->findChild<QListWidget*>(QStringLiteral("toolBarList"));
+    QTRY_COMPARE(list->item(list->count() - 1)->checkState(), Qt::Checked);
+    // Unchecking it disables it, as for any tool bar.
+    list->item(list->count() - 1)->setCheckState(Qt::Unchecked);
+    QVERIFY(!added->isEnabled());
     QCOMPARE(window->toolBars().last(), added);
     clickButton(form.button(QDialogButtonBox::Cancel));
     QVERIFY(!window->findChild<QToolBar*>(QStringLiteral("1")));
