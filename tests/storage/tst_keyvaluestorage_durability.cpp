@@ -141,23 +141,34 @@ void tst_KeyValueStorageDurability::killedWhileSavingLeavesOldOrNewFile()
         store.setValue(rewriter::payloadKey(), rewriter::payloadFor(1));
     }
 
-    // How long one round of the rewriter takes here, so that the kills
-    // spread over whole rounds (measured, never asserted).
+    // How long one round of the rewriter takes here, and the save within it,
+    // so that the kills spread over whole rounds and over saves (measured,
+    // never asserted: sanitizers and load change the proportions).
     qint64 roundMs = 0;
+    qint64 saveMs = 0;
     {
         QProcess child;
         startRewriter(child, fileName);
         QVERIFY(child.waitForStarted());
         QElapsedTimer timer;
+        QElapsedTimer save;
+        qint64 savingTotal = 0;
         int rounds = -1;
         while (rounds < 3 && child.waitForReadyRead(60000)) {
             while (child.canReadLine()) {
-                if (child.readLine().startsWith("saved") && ++rounds == 0)
+                const QByteArray line = child.readLine();
+                if (line.startsWith("saving")) {
+                    save.start();
+                } else if (line.startsWith("saved") && ++rounds == 0) {
                     timer.start();
+                } else if (line.startsWith("saved") && save.isValid()) {
+                    savingTotal += save.elapsed();
+                }
             }
         }
         QCOMPARE(rounds, 3);
         roundMs = qMax<qint64>(timer.elapsed() / rounds, 1);
+        saveMs = qMax<qint64>(savingTotal / rounds, 1);
         child.kill();
         QVERIFY(child.waitForFinished());
     }
@@ -171,9 +182,11 @@ void tst_KeyValueStorageDurability::killedWhileSavingLeavesOldOrNewFile()
         QProcess child;
         startRewriter(child, fileName);
         QVERIFY(child.waitForStarted());
-        // From the start of its first save, a random moment within two rounds.
+        // From the start of its first save, a random moment within two
+        // rounds, or every other time within the save itself.
         QVERIFY(child.waitForReadyRead(60000));
-        QTest::qSleep(int(random.bounded(int(2 * roundMs + 1))));
+        const qint64 span = kill % 2 ? saveMs : 2 * roundMs;
+        QTest::qSleep(1 + int(random.bounded(int(span))));
         child.kill();
         QVERIFY(child.waitForFinished());
         const RewriterRun run(generation, child.readAllStandardOutput());
