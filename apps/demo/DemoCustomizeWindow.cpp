@@ -85,8 +85,7 @@ void DemoCustomizeWindow::accept()
 void DemoCustomizeWindow::reject()
 {
     // The dialog's trees point into the ribbon that is about to be rebuilt.
-    delete m_customize;
-    m_customize = nullptr;
+    dropDialog();
     m_opened.applyTo(*m_window);
     m_window->quickSearch()->refresh();
     QDialog::reject();
@@ -95,10 +94,17 @@ void DemoCustomizeWindow::reject()
 void DemoCustomizeWindow::reset()
 {
     const int tab = m_customize->currentTabIndex();
-    delete m_customize;
-    m_customize = nullptr;
+    dropDialog();
     DemoCustomizeHandler(m_window).resetLayout();
     buildDialog(tab);
+}
+
+void DemoCustomizeWindow::dropDialog()
+{
+    delete m_customize;
+    m_customize = nullptr;
+    m_toolBarPage = nullptr;
+    m_toolBarCommands = nullptr;
 }
 
 void DemoCustomizeWindow::buildDialog(int tab)

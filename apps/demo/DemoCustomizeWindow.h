@@ -52,6 +52,7 @@ public:
 private:
     void placeBelowRibbon();
     void buildDialog(int tab);
+    void dropDialog();
     void placeToolBarPage();
     void dockNewToolBars();
 
