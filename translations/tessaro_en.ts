@@ -156,6 +156,25 @@
     </message>
 </context>
 <context>
+    <name>RibbonCaptionButton.cpp</name>
+    <message>
+        <source>Свернуть</source>
+        <translation>Minimize</translation>
+    </message>
+    <message>
+        <source>Восстановить</source>
+        <translation>Restore Down</translation>
+    </message>
+    <message>
+        <source>Развернуть</source>
+        <translation>Maximize</translation>
+    </message>
+    <message>
+        <source>Закрыть</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>RibbonTreeItemsEditor.cpp</name>
     <message>
         <source>Вид кнопки</source>

@@ -3,6 +3,8 @@
 #include "RibbonColors_p.h"
 #include "qtitan/CommonStyle.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOptionTitleBar>
 
@@ -40,6 +42,22 @@ const char* objectNameOf(RibbonCaptionButton::Kind kind)
     return "qtitan_caption_close";
 }
 
+// What the button does, as its tool tip and accessible name say it; the
+// maximise button restores while the window is maximised.
+QString purposeOf(RibbonCaptionButton::Kind kind, Qt::WindowStates state)
+{
+    switch (kind) {
+    case RibbonCaptionButton::Minimize:
+        return QCoreApplication::translate("RibbonCaptionButton.cpp", "Свернуть");
+    case RibbonCaptionButton::Maximize:
+        return state & Qt::WindowMaximized ? QCoreApplication::translate("RibbonCaptionButton.cpp", "Восстановить")
+                                           : QCoreApplication::translate("RibbonCaptionButton.cpp", "Развернуть");
+    case RibbonCaptionButton::Close:
+        break;
+    }
+    return QCoreApplication::translate("RibbonCaptionButton.cpp", "Закрыть");
+}
+
 // The glyph, 10 px across, centred in the button, drawn on pixel centres.
 void drawGlyph(QPainter* painter, QStyle::SubControls control, const QRect& rect, const QColor& color)
 {
@@ -74,6 +92,21 @@ RibbonCaptionButton::RibbonCaptionButton(Kind kind, QWidget* parent)
     setObjectName(QLatin1String(objectNameOf(kind)));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover, true);
+    describe();
+}
+
+void RibbonCaptionButton::describe()
+{
+    const QString purpose = purposeOf(m_kind, m_windowState);
+    setToolTip(purpose);
+    setAccessibleName(purpose);
+}
+
+void RibbonCaptionButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        describe();
+    QAbstractButton::changeEvent(event);
 }
 
 void RibbonCaptionButton::setWindowState(Qt::WindowStates state)
@@ -81,6 +114,7 @@ void RibbonCaptionButton::setWindowState(Qt::WindowStates state)
     if (m_windowState == state)
         return;
     m_windowState = state;
+    describe();
     update();
 }
 

@@ -13,6 +13,7 @@ namespace detail {
 /// ribbon whose frame theme is on. The style paints it
 /// (CommonStyle::PE_CaptionButton with a QStyleOptionTitleBar whose
 /// subControls names the button and whose titleBarState is the window's state).
+/// Its tool tip and accessible name say what it does.
 class RibbonCaptionButton : public QAbstractButton
 {
     Q_OBJECT
@@ -35,8 +36,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void describe();
+
     Kind m_kind;
     Qt::WindowStates m_windowState = Qt::WindowNoState;
     bool m_windowActive = true;

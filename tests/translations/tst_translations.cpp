@@ -1,5 +1,8 @@
 #include <tessaro/Tessaro.h>
 
+#include <QtitanRibbon.h>
+
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -37,6 +40,24 @@ private slots:
     {
         ui::QuickSearchWidget search(nullptr);
         QCOMPARE(search.placeholderText(), QStringLiteral("Search: Command (Ctrl + Q)"));
+    }
+
+    void captionButtonTexts()
+    {
+        QMainWindow window;
+        auto* ribbon = new Qtitan::RibbonBar;
+        window.setMenuWidget(ribbon);
+        ribbon->setFrameThemeEnabled(true);
+        const auto tipOf = [ribbon](const char* name) {
+            auto* button = ribbon->findChild<QAbstractButton*>(QLatin1String(name));
+            return button ? button->toolTip() : QString();
+        };
+        QCOMPARE(tipOf("qtitan_caption_minimize"), QStringLiteral("Minimize"));
+        QCOMPARE(tipOf("qtitan_caption_maximize"), QStringLiteral("Maximize"));
+        QCOMPARE(tipOf("qtitan_caption_close"), QStringLiteral("Close"));
+        window.show();
+        window.setWindowState(Qt::WindowMaximized);
+        QTRY_COMPARE(tipOf("qtitan_caption_maximize"), QStringLiteral("Restore Down"));
     }
 
     void dockListTitle()

@@ -231,6 +231,28 @@ private Q_SLOTS:
         QVERIFY(!r.window.isVisible());
     }
 
+    // Tool tips and screen readers say what each button does, the maximise
+    // button what it will do in the window's present state.
+    void captionButtonsSayWhatTheyDo()
+    {
+        FramedRibbon r;
+        QVERIFY(QTest::qWaitForWindowExposed(&r.window));
+        const QString minimize = QString::fromUtf8("Свернуть");
+        const QString maximize = QString::fromUtf8("Развернуть");
+        const QString restore = QString::fromUtf8("Восстановить");
+        const QString close = QString::fromUtf8("Закрыть");
+        QCOMPARE(r.minimize()->toolTip(), minimize);
+        QCOMPARE(r.minimize()->accessibleName(), minimize);
+        QCOMPARE(r.close()->toolTip(), close);
+        QCOMPARE(r.close()->accessibleName(), close);
+        QCOMPARE(r.maximize()->toolTip(), maximize);
+        QTest::mouseClick(r.maximize(), Qt::LeftButton);
+        QTRY_COMPARE(r.maximize()->toolTip(), restore);
+        QCOMPARE(r.maximize()->accessibleName(), restore);
+        QTest::mouseClick(r.maximize(), Qt::LeftButton);
+        QTRY_COMPARE(r.maximize()->toolTip(), maximize);
+    }
+
     void maximizeButtonLooksPlainOnceTheWindowMovesItAway()
     {
         FramedRibbon r;
