@@ -29,7 +29,7 @@ DemoCustomizeWindow* DemoCustomizeWindow::showFor(DemoWindow* window)
     auto* customize = window->findChild<DemoCustomizeWindow*>(QString(), Qt::FindDirectChildrenOnly);
     if (!customize) {
         customize = new DemoCustomizeWindow(window);
-        customize->placeBelowRibbon();
+        customize->placeBelowBars();
         customize->open();
     }
     customize->raise();
@@ -60,18 +60,19 @@ DemoCustomizeWindow::DemoCustomizeWindow(DemoWindow* window)
 
 DemoCustomizeWindow::~DemoCustomizeWindow() = default;
 
-// Centred on the window but below its ribbon, so that the user watches the
-// ribbon change; kept on the screen.
-void DemoCustomizeWindow::placeBelowRibbon()
+// Centred on the window but below its ribbon and top tool bars, so that the
+// user watches them change; kept on the screen.
+void DemoCustomizeWindow::placeBelowBars()
 {
-    QWidget* top = m_window->menuWidget();
-    const int below = top ? top->mapToGlobal(QPoint(0, top->height())).y() + 8 : m_window->y();
-    QRect frame(QPoint(), size());
+    const int below = m_window->centralWidget()->mapToGlobal(QPoint(0, 0)).y() + 8;
+    QRect frame(QPoint(), frameGeometry().size());
     frame.moveCenter(m_window->frameGeometry().center());
     frame.moveTop(below);
     const QRect screen = m_window->screen()->availableGeometry();
     frame.moveBottom(qMin(frame.bottom(), screen.bottom()));
     frame.moveTop(qMax(frame.top(), screen.top()));
+    frame.moveRight(qMin(frame.right(), screen.right()));
+    frame.moveLeft(qMax(frame.left(), screen.left()));
     move(frame.topLeft());
 }
 
@@ -136,8 +137,10 @@ void DemoCustomizeWindow::placeToolBarPage()
     connect(m_toolBarCommands, &MenuTreeWidget::actionDoubleClicked, m_toolBarPage,
             &ui::QToolBarPage::fromDoubleClick);
 
-    // A tool bar added on the page joins the window once the page is done with it.
+    // The first tool bar's contents are shown, rather than an empty tree.
     auto* toolBarList = m_toolBarPage->findChild<QListWidget*>(QStringLiteral("toolBarList"));
+    toolBarList->setCurrentRow(0);
+    // A tool bar added on the page joins the window once the page is done with it.
     connect(toolBarList->model(), &QAbstractItemModel::rowsInserted, this, &DemoCustomizeWindow::dockNewToolBars,
             Qt::QueuedConnection);
 }

@@ -49,8 +49,11 @@ public:
     /// Returns the main window to the demo's first layout; the dialog shows it.
     void reset();
 
+    /// Moves the window below the main window's ribbon and top tool bars,
+    /// centred on it, as far as the screen allows; showFor() does it first.
+    void placeBelowBars();
+
 private:
-    void placeBelowRibbon();
     void buildDialog(int tab);
     void dropDialog();
     void placeToolBarPage();

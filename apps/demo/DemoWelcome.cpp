@@ -53,10 +53,13 @@ QString DemoWelcome::html(bool classic)
                 "(<b>Ctrl+Q</b>) and pick it from the list.</li>"
                 "<li>Give a command a new key in %5. The shortcuts, tool bars, panels, style and ribbon are "
                 "kept for the next start; <b>--reset-layout</b> forgets them.</li>"
-                "<li>Reshape the ribbon, the quick access bar and the tool bars in %6: the window shows each "
-                "change at once.</li></ul>")
+                "<li>%6</li></ul>")
                  .arg(shown(path.at(UndoPath)), shown(path.at(ZoomLevelsPath)), shown(path.at(FontSizesPath)),
-                      shown(path.at(RulerPath)), shown(path.at(ShortcutsPath)), shown(path.at(CustomizePath)))
+                      shown(path.at(RulerPath)), shown(path.at(ShortcutsPath)),
+                      (classic ? tr("Reshape the tool bars in %1: the window shows each change at once.")
+                               : tr("Reshape the ribbon, the quick access bar and the tool bars in %1: the window "
+                                    "shows each change at once."))
+                          .arg(shown(path.at(CustomizePath))))
            + (classic ? tr("<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" width=\"60%\">"
                            "<tr><th>Menu</th><th>Examples</th></tr>"
                            "<tr><td>File</td><td>New, Open, Recent Files, Export, Properties</td></tr>"

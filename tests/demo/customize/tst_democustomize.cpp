@@ -30,6 +30,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QStyleFactory>
 #include <QTabBar>
@@ -334,6 +335,12 @@ void tst_DemoCustomize::opensFromToolsAndSystemMenu()
     DemoCustomizeWindow* opened = openCustomize(*window);
     QVERIFY(opened);
     QCOMPARE(opened->windowModality(), Qt::WindowModal);
+    // The offscreen screen has no room below the ribbon for the window (the
+    // classic test sees it placed below the tool bars): it stays on the screen.
+    window->setGeometry(0, 0, 800, 580);
+    opened->resize(700, 560);
+    opened->placeBelowBars();
+    QVERIFY(opened->screen()->availableGeometry().contains(opened->frameGeometry()));
     Form form(opened);
     // The ribbon tab first; the hot keys tab stays out.
     QCOMPARE(form.tabs->count(), 3);
@@ -356,6 +363,17 @@ void tst_DemoCustomize::classicModeOffersOnlyToolBars()
     QVERIFY(opened);
     Form form(opened);
     QCOMPARE(form.tabs->count(), 1);
+    // Below the tool bars it edits, the first one's contents shown.
+    window->setGeometry(0, 0, 800, 580);
+    opened->resize(700, 380);
+    opened->placeBelowBars();
+    QToolBar* standard = window->standardToolBar();
+    QVERIFY(opened->frameGeometry().top() >= standard->mapToGlobal(QPoint(0, standard->height())).y());
+    auto* list = form.page->findChild<QListWidget*>(QStringLiteral("toolBarList"));
+    QCOMPARE(list->currentRow(), 0);
+    auto* contents = form.page->findChild<QTreeWidget*>(QStringLiteral("contentsTree"));
+    QVERIFY(contents);
+    QCOMPARE(contents->topLevelItemCount(), standard->actions().size());
     QVERIFY(form.tabs->widget(0)->isAncestorOf(form.page));
     QCOMPARE(form.page->toolBars(), window->toolBars());
     clickButton(form.button(QDialogButtonBox::Cancel));
