@@ -4,6 +4,7 @@
 #include "DemoFiles.h"
 #include "DemoMenus.h"
 #include "DemoQuickSearch.h"
+#include "DemoSettings.h"
 #include "DemoToolBars.h"
 #include "DemoTranslations.h"
 #include "DemoWindow.h"
@@ -285,6 +286,9 @@ private slots:
     void resetReturnsToTheDemoDefaults();
     void removedToolBarStaysRemovedAndResetBringsItBack();
     void journeySurvivesARestart();
+    void malformedToolBarSettingsChangeNothing_data();
+    void malformedToolBarSettingsChangeNothing();
+    void toolBarEntriesNamingNothingAreSkipped();
     void screenshots();
 
 private:
@@ -675,6 +679,68 @@ void tst_DemoCustomize::journeySurvivesARestart()
     QVERIFY2(offered.contains(newPlace), qPrintable(offered.join(", ")));
     QTest::keyClick(window->quickSearch()->box()->findChild<QMenu*>(), Qt::Key_Return);
     QTRY_VERIFY(!doc->toPlainText().isEmpty());
+}
+
+void tst_DemoCustomize::malformedToolBarSettingsChangeNothing_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    const auto toolBar = [](const QVariant& name, const QVariant& entries) {
+        return QVariantMap{{QStringLiteral("name"), name},
+                           {QStringLiteral("title"), QStringLiteral("T")},
+                           {QStringLiteral("entries"), entries}};
+    };
+    QTest::newRow("not a list") << QVariant(42);
+    QTest::newRow("list of numbers") << QVariant(QVariantList{1, 2, 3});
+    QTest::newRow("unnamed toolbar") << QVariant(QVariantList{toolBar(QString(), QVariantList())});
+    QTest::newRow("same name twice")
+        << QVariant(QVariantList{toolBar(QStringLiteral("a"), QVariantList()), toolBar(QStringLiteral("a"), QVariantList())});
+}
+
+// A settings file holding nonsense where the toolbars are kept gives the
+// toolbars as built, and nothing breaks.
+void tst_DemoCustomize::malformedToolBarSettingsChangeNothing()
+{
+    QFETCH(QVariant, stored);
+    {
+        DemoSettings settings(settingsFile());
+        settings.setValue(DemoToolBars::settingsKey, stored);
+    }
+    auto window = start();
+    QVERIFY(window);
+    QCOMPARE(titles(window->toolBars()), QStringList({QStringLiteral("Standard"), QStringLiteral("Formatting")}));
+    QVERIFY(window->standardToolBar()->actions().size() > 10);
+}
+
+void tst_DemoCustomize::toolBarEntriesNamingNothingAreSkipped()
+{
+    const auto entry = [](const QString& id, const QVariant& style = QVariant()) {
+        QVariantMap map{{QStringLiteral("id"), id}};
+        if (style.isValid())
+            map.insert(QStringLiteral("style"), style);
+        return QVariant(map);
+    };
+    QVariantMap group = entry(QStringLiteral("group")).toMap();
+    group.insert(QStringLiteral("children"), 5);
+    group.insert(QStringLiteral("type"), -3);
+    const QVariantList entries{entry(QStringLiteral("cmd.999999")), entry(QStringLiteral("nonsense")),
+                               entry(QStringLiteral("-")), entry(QStringLiteral("cmd.101"), 99), group, 17};
+    {
+        DemoSettings settings(settingsFile());
+        settings.setValue(DemoToolBars::settingsKey,
+                          QVariantList{QVariantMap{{QStringLiteral("name"), QStringLiteral("standardToolBar")},
+                                                   {QStringLiteral("title"), QStringLiteral("Mine")},
+                                                   {QStringLiteral("entries"), entries}}});
+    }
+    auto window = start(true);
+    QVERIFY(window);
+    // What the settings name is there; what they do not name is not.
+    QCOMPARE(titles(window->toolBars()), QStringList({QStringLiteral("Mine")}));
+    QVERIFY(!window->formatToolBar());
+    const QList<QAction*> actions = window->standardToolBar()->actions();
+    QCOMPARE(actions.size(), 3);
+    QVERIFY(actions.at(0)->isSeparator());
+    QCOMPARE(actions.at(1), window->commands()->action(C::FileNew));
+    QVERIFY(actions.at(2)->menu() && actions.at(2)->menu()->isEmpty());
 }
 
 void tst_DemoCustomize::screenshots()
