@@ -41,6 +41,7 @@ DemoCustomizeWindow::DemoCustomizeWindow(DemoWindow* window)
     : QDialog(window)
     , m_window(window)
     , m_opened(DemoCustomLayout::of(*window))
+    , m_openedState(window->saveState())
 {
     setObjectName(QStringLiteral("demoCustomize"));
     setWindowTitle(tr("Customize"));
@@ -88,6 +89,8 @@ void DemoCustomizeWindow::reject()
     // The dialog's trees point into the ribbon that is about to be rebuilt.
     dropDialog();
     m_opened.applyTo(*m_window);
+    // A toolbar removed and made again goes back to where it stood.
+    m_window->restoreState(m_openedState);
     m_window->quickSearch()->refresh();
     QDialog::reject();
 }

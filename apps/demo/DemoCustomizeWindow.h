@@ -61,6 +61,7 @@ private:
 
     DemoWindow* m_window;
     DemoCustomLayout m_opened;
+    QByteArray m_openedState;
     ui::QCustomizeDlg* m_customize = nullptr;
     ui::QToolBarPage* m_toolBarPage = nullptr;
     MenuTreeWidget* m_toolBarCommands = nullptr;

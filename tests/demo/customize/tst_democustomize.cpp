@@ -438,6 +438,15 @@ void tst_DemoCustomize::cancelPutsBackWhatWasThereAtOpening()
     auto window = start();
     QVERIFY(window);
     const QStringList before = layoutOf(*window);
+    // The classic toolbars shown, so that where they stand counts.
+    window->commands()->action(C::ViewToolBarStandard)->trigger();
+    window->commands()->action(C::ViewToolBarFormat)->trigger();
+    window->addToolBarBreak();
+    window->addToolBar(window->formatToolBar());
+    QTRY_VERIFY(window->formatToolBar()->isVisible());
+    QCoreApplication::processEvents();
+    const QRect formatBefore = window->formatToolBar()->geometry();
+    QVERIFY(formatBefore.top() > window->standardToolBar()->geometry().top());
     Form form(openCustomize(*window));
     QAbstractItemModelTester tester(form.ribbonView->model(), QAbstractItemModelTester::FailureReportingMode::QtTest);
     QAction* wordCount = window->commands()->action(C::ToolsWordCount);
@@ -464,6 +473,10 @@ void tst_DemoCustomize::cancelPutsBackWhatWasThereAtOpening()
     QVERIFY(!quickActions(*window).contains(wordCount));
     QCOMPARE(titles(window->toolBars()), QStringList({QStringLiteral("Standard"), QStringLiteral("Formatting")}));
     QVERIFY(window->formatToolBar());
+    // Formatting, made again, stands where it stood (a row of its own), shown.
+    QTRY_VERIFY(window->formatToolBar()->isVisible());
+    QCOMPARE(window->toolBarArea(window->formatToolBar()), Qt::TopToolBarArea);
+    QTRY_COMPARE(window->formatToolBar()->geometry(), formatBefore);
     // Nothing of it reached the settings: a restart shows the ribbon as built.
     window->close();
     window.reset();
