@@ -9,6 +9,8 @@
 #include "DemoTranslations.h"
 #include "DemoWindow.h"
 
+#include "common/demostart.h"
+
 #include <tessaro/CommandsRegistry.h>
 #include <tessaro/menuTreeModel.h>
 #include <tessaro/MenuTreeWidget.h>
@@ -294,16 +296,7 @@ private slots:
 private:
     std::unique_ptr<DemoWindow> start(bool classic = false, bool reset = false)
     {
-        demo::ShellOptions options;
-        options.classic = classic;
-        options.resetLayout = reset;
-        auto window = std::make_unique<DemoWindow>(settingsFile(), nullptr, options);
-        window->openWelcomeDocument();
-        window->show();
-        QApplication::setActiveWindow(window.get());
-        if (!QTest::qWaitForWindowActive(window.get()))
-            return nullptr;
-        return window;
+        return testcommon::startDemo(settingsFile(), classic, reset);
     }
     QString settingsFile() const { return m_dir->filePath(QStringLiteral("settings.dat")); }
 

@@ -90,6 +90,28 @@ void collectRibbonActions(Qtitan::RibbonGroup* group, const QList<QAction*>& act
     }
 }
 
+// A shown demo window with one new document, and the boxes of its Font group.
+struct FontGroupFixture
+{
+    QTemporaryDir dir;
+    DemoWindow window{dir.filePath(QStringLiteral("settings.dat"))};
+    DemoDocument* doc = window.commands()->files()->newDocument();
+
+    bool show()
+    {
+        window.show();
+        return QTest::qWaitForWindowExposed(&window);
+    }
+    ui::RibbonBar* ribbon() { return ribbonOf(window); }
+    Qtitan::RibbonGroup* font() { return group(ribbon(), QStringLiteral("Font")); }
+    QWidget* control(const char* name)
+    {
+        return font()->controlByAction(named(ribbon(), QString::fromLatin1(name)));
+    }
+    QComboBox* sizeBox() { return control("ribbon.fontSize")->findChild<QComboBox*>(); }
+    QFontComboBox* familyBox() { return control("ribbon.fontFamily")->findChild<QFontComboBox*>(); }
+};
+
 } // namespace
 
 class tst_DemoRibbon : public QObject
@@ -277,16 +299,14 @@ void tst_DemoRibbon::buttonLabelsKeepTheirWidthWhileTyping()
 
 void tst_DemoRibbon::readOnlyDisablesEveryFontControl()
 {
-    QTemporaryDir dir;
-    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
-    DemoDocument* doc = window.commands()->files()->newDocument();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    ui::RibbonBar* ribbon = ribbonOf(window);
-    Qtitan::RibbonGroup* font = group(ribbon, QStringLiteral("Font"));
-    QWidget* sizeBox = font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))->findChild<QComboBox*>();
-    QWidget* familyBox =
-        font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontFamily")))->findChild<QFontComboBox*>();
+    FontGroupFixture f;
+    QVERIFY(f.show());
+    DemoWindow& window = f.window;
+    DemoDocument* doc = f.doc;
+    ui::RibbonBar* ribbon = f.ribbon();
+    Qtitan::RibbonGroup* font = f.font();
+    QWidget* sizeBox = f.sizeBox();
+    QWidget* familyBox = f.familyBox();
     QVERIFY(sizeBox && familyBox);
     QAction* color = named(ribbon, QStringLiteral("ribbon.textColor"));
     const auto fontControls = [&] {
@@ -324,16 +344,11 @@ void tst_DemoRibbon::textColorNeverLooksPressed()
 
 void tst_DemoRibbon::fontBoxesFollowTheCursorAndApply()
 {
-    QTemporaryDir dir;
-    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
-    DemoDocument* doc = window.commands()->files()->newDocument();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    ui::RibbonBar* ribbon = ribbonOf(window);
-    Qtitan::RibbonGroup* font = group(ribbon, QStringLiteral("Font"));
-    auto* sizeBox = font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))->findChild<QComboBox*>();
-    auto* familyBox =
-        font->controlByAction(named(ribbon, QStringLiteral("ribbon.fontFamily")))->findChild<QFontComboBox*>();
+    FontGroupFixture f;
+    QVERIFY(f.show());
+    DemoDocument* doc = f.doc;
+    QComboBox* sizeBox = f.sizeBox();
+    QFontComboBox* familyBox = f.familyBox();
 
     doc->setHtml(QStringLiteral("<p>plain <span style=\"font-size:18pt; font-family:'DejaVu Serif'\">big</span></p>"));
     QTextCursor cursor = doc->textCursor();
@@ -360,15 +375,11 @@ void tst_DemoRibbon::fontBoxesFollowTheCursorAndApply()
 
 void tst_DemoRibbon::fontSizeCountsHeadingsAndIgnoresZoom()
 {
-    QTemporaryDir dir;
-    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
-    DemoDocument* doc = window.commands()->files()->newDocument();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    ui::RibbonBar* ribbon = ribbonOf(window);
-    auto* sizeBox = group(ribbon, QStringLiteral("Font"))
-                        ->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))
-                        ->findChild<QComboBox*>();
+    FontGroupFixture f;
+    QVERIFY(f.show());
+    DemoWindow& window = f.window;
+    DemoDocument* doc = f.doc;
+    QComboBox* sizeBox = f.sizeBox();
     QVERIFY(sizeBox);
 
     // Twice the body size: 22 pt, which the box does not list.
@@ -396,15 +407,10 @@ void tst_DemoRibbon::fontSizeCountsHeadingsAndIgnoresZoom()
 
 void tst_DemoRibbon::fontSizeTypedIntoTheBoxApplies()
 {
-    QTemporaryDir dir;
-    DemoWindow window(dir.filePath(QStringLiteral("settings.dat")));
-    DemoDocument* doc = window.commands()->files()->newDocument();
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    ui::RibbonBar* ribbon = ribbonOf(window);
-    auto* sizeBox = group(ribbon, QStringLiteral("Font"))
-                        ->controlByAction(named(ribbon, QStringLiteral("ribbon.fontSize")))
-                        ->findChild<QComboBox*>();
+    FontGroupFixture f;
+    QVERIFY(f.show());
+    DemoDocument* doc = f.doc;
+    QComboBox* sizeBox = f.sizeBox();
     QVERIFY(sizeBox && sizeBox->isEditable());
     doc->setPlainText(QStringLiteral("some words"));
     QTextCursor cursor = doc->textCursor();
