@@ -1,6 +1,7 @@
 #include <tessaro/QHotKeyPage.h>
 
 #include <tessaro/QtKeySequenceEdit.h>
+#include "common/LazyIconEngine_p.h"
 #include "ui_QHotKeyPage.h"
 
 #include <QAction>
@@ -17,6 +18,9 @@ QHotKeyPage::QHotKeyPage(QWidget* parent)
     // The form first, then the edit: children and focus chain follow the
     // form's order, with the edit at their end.
     m_ui->setupUi(this);
+    LazyIconEngine::setIcons({
+        {m_ui->addButton, ":/Tessaro/plus.png"},
+    });
     m_edit = new QtKeySequenceEdit(this);
     m_ui->horizontalLayout->insertWidget(0, m_edit);
 

@@ -2,6 +2,7 @@
 
 #include <tessaro/RibbonControls.h>
 #include "TessaroTranslate_p.h"
+#include "common/LazyIconEngine_p.h"
 #include "ui_QToolBarPage.h"
 
 #include <QAction>
@@ -114,6 +115,18 @@ QToolBarPage::QToolBarPage(QWidget* parent)
     , m_toolBar(nullptr)
 {
     m_ui->setupUi(this);
+    LazyIconEngine::setIcons({
+        {m_ui->addToolbarButton, ":/Tessaro/add-toolbar.png"},
+        {m_ui->removeToolbarButton, ":/Tessaro/remove-toolbar.png"},
+        {m_ui->renameToolbarButton, ":/Tessaro/rename-toolbar.png"},
+        {m_ui->addActionButton, ":/Tessaro/go-top-icone-5674-32.png"},
+        {m_ui->addActionToGroupButton, ":/Tessaro/add-to-group.png"},
+        {m_ui->removeActionButton, ":/Tessaro/1remove.png"},
+        {m_ui->addGroupButton, ":/Tessaro/add-group-action.png"},
+        {m_ui->addSeparatorButton, ":/Tessaro/add-separator.png"},
+        {m_ui->upButton, ":/Tessaro/1uparrow.png"},
+        {m_ui->downButton, ":/Tessaro/1downarrow.png"},
+    });
     m_ui->splitter->setStretchFactor(1, 2);
     updateButtons();
 }
