@@ -4,7 +4,7 @@
 #include <tessaro/RibbonTreeItemsEditor.h>
 #include <tessaro/ribbonQuickPanelTreeModel.h>
 
-#include "common/LazyIconEngine_p.h"
+#include "EditorButtonIcons_p.h"
 #include "ui_QRibbonTreeQuickPanelWidget.h"
 
 #include <QAction>
@@ -51,14 +51,7 @@ QRibbonTreeQuickPanelWidget::QRibbonTreeQuickPanelWidget(QWidget* parent)
     , m_ui(new Ui::ribbonTreeQuickPanelWidget)
 {
     m_ui->setupUi(this);
-    LazyIconEngine::setIcons({
-        {m_ui->addItem, ":/Tessaro/go-top-icone-5674-32.png"},
-        {m_ui->addGroupItem, ":/Tessaro/add-group-action.png"},
-        {m_ui->addSeparator, ":/Tessaro/add-separator.png"},
-        {m_ui->up, ":/Tessaro/1uparrow.png"},
-        {m_ui->down, ":/Tessaro/1downarrow.png"},
-        {m_ui->del, ":/Tessaro/1remove.png"},
-    });
+    setEditorButtonIcons(m_ui);
     m_model = new RibbonQuickPanelTreeModel(nullptr, m_ui->ribbonTreeView);
     m_ui->ribbonTreeView->setModel(m_model);
     m_ui->ribbonTreeView->expandAll();

@@ -4,7 +4,7 @@
 #include <tessaro/RibbonTreeItemsEditor.h>
 #include <tessaro/ribbonTreeModel.h>
 
-#include "common/LazyIconEngine_p.h"
+#include "EditorButtonIcons_p.h"
 #include "ui_QRibbonTreeWidget.h"
 
 #include <QtitanRibbon.h>
@@ -35,13 +35,8 @@ QRibbonTreeWidget::QRibbonTreeWidget(QWidget* parent)
     LazyIconEngine::setIcons({
         {m_ui->addPanel, ":/Tessaro/add-panel2.png"},
         {m_ui->addGroup, ":/Tessaro/add-group.png"},
-        {m_ui->addItem, ":/Tessaro/go-top-icone-5674-32.png"},
-        {m_ui->addGroupItem, ":/Tessaro/add-group-action.png"},
-        {m_ui->addSeparator, ":/Tessaro/add-separator.png"},
-        {m_ui->up, ":/Tessaro/1uparrow.png"},
-        {m_ui->down, ":/Tessaro/1downarrow.png"},
-        {m_ui->del, ":/Tessaro/1remove.png"},
     });
+    setEditorButtonIcons(m_ui);
     m_model = new RibbonTreeModel(nullptr, m_ui->ribbonTreeView);
     m_ui->ribbonTreeView->setModel(m_model);
     expandBranches();
