@@ -66,8 +66,11 @@ QSize RibbonWidgetControl::computeSizeHint(RibbonControlSizeDefinition::GroupSiz
     const int row = detail::RibbonMetrics::forWidget(this).rowHeight;
     if (!d->widget)
         return QSize(0, row);
+    // As a layout would size it: the widget never grows past its maximum
+    // width, and a wider control would leave a gap beside it.
     const QSize hint = d->widget->sizeHint().expandedTo(d->widget->minimumSizeHint());
-    return QSize(qMax(hint.width(), d->widget->minimumWidth()), row);
+    const int width = qMin(qMax(hint.width(), d->widget->minimumWidth()), d->widget->maximumWidth());
+    return QSize(width, row);
 }
 
 QSize RibbonWidgetControl::sizeHint() const

@@ -3,6 +3,9 @@
 #include "ribbonsample.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QWidgetAction>
 #include <QMainWindow>
 #include <QDir>
 #include <QPointer>
@@ -245,6 +248,47 @@ private slots:
             }
         }
         QVERIFY(combo);
+    }
+
+    void widgetsTakeNoMoreRoomThanTheyMayFill()
+    {
+        // A box whose contents want more room than its maximum width allows:
+        // the control is as wide as the box, so no gap opens beside it.
+        RibbonPage page;
+        RibbonGroup* group = page.addGroup(QStringLiteral("Font"));
+        auto* wide = new QWidgetAction(group);
+        auto* box = new QComboBox;
+        box->addItem(QStringLiteral("A family name far longer than the box may ever grow"));
+        box->setMaximumWidth(120);
+        QVERIFY(box->sizeHint().width() > 120);
+        wide->setDefaultWidget(box);
+        group->addAction(wide);
+        auto* narrow = new QWidgetAction(group);
+        auto* edit = new QLineEdit;
+        edit->setMinimumWidth(90);
+        edit->setMaximumWidth(90);
+        narrow->setDefaultWidget(edit);
+        group->addAction(narrow);
+        auto* separator = new QAction(group);
+        separator->setSeparator(true);
+        group->addAction(separator);
+        QAction* bold = sample::action(group, QStringLiteral("Bold"), Qt::red);
+        group->addAction(bold, Qt::ToolButtonIconOnly);
+        page.resize(1000, 120);
+        page.show();
+        page.updateLayout();
+
+        RibbonControl* wideControl = group->controlByAction(wide);
+        QCOMPARE(wideControl->width(), 120);
+        QCOMPARE(box->geometry().left(), 0);
+        QCOMPARE(box->width(), wideControl->width());
+        QCOMPARE(group->controlByAction(narrow)->width(), 90);
+        QCOMPARE(edit->width(), 90);
+        // The separator follows the widest box of the column at the spacing
+        // the group keeps between any two columns.
+        const QRect separatorRect = group->controlByAction(separator)->geometry();
+        const QRect boldRect = group->controlByAction(bold)->geometry();
+        QCOMPARE(separatorRect.left() - wideControl->geometry().right(), boldRect.left() - separatorRect.right());
     }
 
     void collapsedGroupOpensPopup()
