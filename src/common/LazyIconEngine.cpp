@@ -1,6 +1,7 @@
 #include "LazyIconEngine_p.h"
 
 #include <QAbstractButton>
+#include <QGuiApplication>
 
 LazyIconEngine::LazyIconEngine(const QString& fileName)
     : m_fileName(fileName)
@@ -32,10 +33,13 @@ QSize LazyIconEngine::actualSize(const QSize& size, QIcon::Mode mode, QIcon::Sta
 
 QPixmap LazyIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state)
 {
-    // The caller has scaled the size by the device pixel ratio and
-    // QIcon::pixmap() scales it again, so the image may come back larger than
-    // asked for; an engine never returns one larger.
-    QPixmap image = decoded().pixmap(size, mode, state);
+    // The size is in device pixels already, and QIcon::pixmap() multiplies
+    // what it is asked for by the device pixel ratio once more when high-DPI
+    // pixmaps are on: ask it for the size over that ratio. What rounding
+    // leaves too large is scaled down, as an engine never answers larger.
+    const qreal ratio = qApp->testAttribute(Qt::AA_UseHighDpiPixmaps) ? qApp->devicePixelRatio() : 1.0;
+    const QSize request = ratio > 1.0 ? QSize(qRound(size.width() / ratio), qRound(size.height() / ratio)) : size;
+    QPixmap image = decoded().pixmap(request, mode, state);
     if (image.width() > size.width() || image.height() > size.height())
         image = image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     image.setDevicePixelRatio(1.0);
