@@ -4,6 +4,8 @@
 // picture of each tab there.
 #include <tessaro/Tessaro.h>
 
+#include "common/treeclicks.h"
+
 #include <QtitanRibbon.h>
 
 #include <QAbstractItemModelTester>
@@ -188,20 +190,13 @@ void flushDeletes()
 
 void click(QTreeView* view, const QModelIndex& index, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
-    QVERIFY(index.isValid());
-    view->scrollTo(index);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, modifiers, view->visualRect(index).center());
+    testcommon::clickRow(view, index, modifiers);
     flushDeletes();
 }
 
-// A double-click as a user makes it: the first press picks the row.
 void doubleClick(QTreeView* view, const QModelIndex& index)
 {
-    QVERIFY(index.isValid());
-    view->scrollTo(index);
-    const QPoint pos = view->visualRect(index).center();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    testcommon::doubleClickRow(view, index);
     flushDeletes();
 }
 

@@ -10,6 +10,7 @@
 #include "DemoWindow.h"
 
 #include "common/demostart.h"
+#include "common/treeclicks.h"
 
 #include <tessaro/CommandsRegistry.h>
 #include <tessaro/menuTreeModel.h>
@@ -112,20 +113,13 @@ QModelIndex findRow(const QAbstractItemModel& model, const QStringList& path, co
 
 void click(QTreeView* view, const QModelIndex& index)
 {
-    QVERIFY(index.isValid());
-    view->scrollTo(index);
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
+    testcommon::clickRow(view, index);
     flushDeletes();
 }
 
-// A double-click as a user makes it: the first press picks the row.
 void doubleClick(QTreeView* view, const QModelIndex& index)
 {
-    QVERIFY(index.isValid());
-    view->scrollTo(index);
-    const QPoint pos = view->visualRect(index).center();
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
-    QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
+    testcommon::doubleClickRow(view, index);
     flushDeletes();
 }
 
