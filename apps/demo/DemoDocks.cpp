@@ -1,12 +1,12 @@
 #include "DemoDocks.h"
 
+#include "DemoOutline.h"
+#include "DemoProperties.h"
+
 #include <QDockWidget>
-#include <QHeaderView>
 #include <QMainWindow>
 #include <QPlainTextEdit>
-#include <QTableWidget>
 #include <QTime>
-#include <QTreeWidget>
 
 namespace demo {
 
@@ -20,42 +20,15 @@ QDockWidget* makeDock(QMainWindow* window, const QString& title, const QString& 
     return dock;
 }
 
-QTreeWidget* makeOutline()
-{
-    auto* tree = new QTreeWidget;
-    tree->setHeaderHidden(true);
-    const QStringList chapters{"Introduction", "Commands", "Ribbon", "Customization"};
-    for (const QString& chapter : chapters) {
-        auto* item = new QTreeWidgetItem(tree, {chapter});
-        for (int i = 1; i <= 2; ++i)
-            new QTreeWidgetItem(item, {QStringLiteral("%1.%2").arg(chapter.left(1)).arg(i)});
-    }
-    tree->expandToDepth(0);
-    return tree;
-}
-
-QTableWidget* makeProperties()
-{
-    const QList<QPair<QString, QString>> rows{
-        {"Name", "Document 1"}, {"Author", "Tessaro"}, {"Pages", "3"}, {"Modified", "no"}};
-    auto* table = new QTableWidget(rows.size(), 2);
-    table->setHorizontalHeaderLabels({"Property", "Value"});
-    table->verticalHeader()->hide();
-    table->horizontalHeader()->setStretchLastSection(true);
-    for (int i = 0; i < rows.size(); ++i) {
-        table->setItem(i, 0, new QTableWidgetItem(rows.at(i).first));
-        table->setItem(i, 1, new QTableWidgetItem(rows.at(i).second));
-    }
-    return table;
-}
-
 } // namespace
 
 DemoDocks createDocks(QMainWindow* window)
 {
     DemoDocks docks;
-    docks.outline = makeDock(window, "Outline", "outlineDock", makeOutline());
-    docks.properties = makeDock(window, "Properties", "propertiesDock", makeProperties());
+    docks.outlineView = new DemoOutline;
+    docks.outline = makeDock(window, "Outline", "outlineDock", docks.outlineView);
+    docks.propertiesView = new DemoProperties;
+    docks.properties = makeDock(window, "Properties", "propertiesDock", docks.propertiesView);
     docks.logView = new QPlainTextEdit;
     docks.logView->setReadOnly(true);
     docks.log = makeDock(window, "Log", "logDock", docks.logView);

@@ -2,6 +2,8 @@
 
 #include <QList>
 
+class DemoOutline;
+class DemoProperties;
 class QDockWidget;
 class QMainWindow;
 class QPlainTextEdit;
@@ -14,6 +16,8 @@ struct DemoDocks
     QDockWidget* outline = nullptr;
     QDockWidget* properties = nullptr;
     QDockWidget* log = nullptr;
+    DemoOutline* outlineView = nullptr;
+    DemoProperties* propertiesView = nullptr;
     QPlainTextEdit* logView = nullptr;
 
     QList<QDockWidget*> all() const { return {outline, properties, log}; }

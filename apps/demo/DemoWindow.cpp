@@ -10,6 +10,8 @@
 #include "DemoFontFamilyAction.h"
 #include "DemoFindBar.h"
 #include "DemoMenus.h"
+#include "DemoOutline.h"
+#include "DemoProperties.h"
 #include "DemoQuickSearch.h"
 #include "DemoRibbon.h"
 #include "DemoSettings.h"
@@ -394,6 +396,8 @@ void DemoWindow::createShell()
     demo::keepTabTextReadable(m_area);
     demo::activateCurrentOnShow(m_area);
     m_docks = demo::createDocks(this);
+    connect(this, &DemoWindow::activeDocumentChanged, m_docks.outlineView, &DemoOutline::setDocument);
+    connect(this, &DemoWindow::activeDocumentChanged, m_docks.propertiesView, &DemoProperties::setDocument);
     demo::appendLog(m_docks, tr("Started with %1 (%2).")
                                  .arg(demo::styleLabel(currentStyle()))
                                  .arg(m_classic ? tr("classic menu bar") : tr("ribbon")));

@@ -1,0 +1,66 @@
+#include "DemoProperties.h"
+
+#include "DemoDocument.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLocale>
+#include <QTimer>
+
+DemoProperties::DemoProperties(QWidget* parent)
+    : QTableWidget(RowCount, 2, parent)
+    , m_refreshTimer(new QTimer(this))
+{
+    setObjectName(QStringLiteral("properties"));
+    setHorizontalHeaderLabels({tr("Property"), tr("Value")});
+    verticalHeader()->hide();
+    horizontalHeader()->setStretchLastSection(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    const QString names[RowCount] = {tr("Name"), tr("Location"), tr("Words"),
+                                     tr("Characters"), tr("Paragraphs"), tr("Modified")};
+    for (int row = 0; row < RowCount; ++row) {
+        setItem(row, 0, new QTableWidgetItem(names[row]));
+        setItem(row, 1, new QTableWidgetItem);
+    }
+    // Counting walks the whole text: wait for a pause in typing.
+    m_refreshTimer->setSingleShot(true);
+    m_refreshTimer->setInterval(300);
+    connect(m_refreshTimer, &QTimer::timeout, this, &DemoProperties::refresh);
+}
+
+void DemoProperties::setDocument(DemoDocument* document)
+{
+    if (m_document) {
+        disconnect(m_document, nullptr, this, nullptr);
+        disconnect(m_document, nullptr, m_refreshTimer, nullptr);
+    }
+    m_document = document;
+    if (document) {
+        connect(document, &QTextEdit::textChanged, m_refreshTimer, qOverload<>(&QTimer::start));
+        connect(document, &DemoDocument::titleChanged, this, &DemoProperties::refresh);
+    }
+    m_refreshTimer->stop();
+    refresh();
+}
+
+void DemoProperties::refresh()
+{
+    DemoDocument* doc = m_document;
+    const QLocale locale;
+    const QString path = doc ? doc->filePath() : QString();
+    setValue(Name, doc ? doc->title() : QString());
+    setValue(Location, !doc ? QString()
+                       : path.isEmpty() ? tr("Not saved")
+                                        : QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
+    setValue(Words, doc ? locale.toString(doc->wordCount()) : QString());
+    setValue(Characters, doc ? locale.toString(doc->document()->characterCount() - 1) : QString());
+    setValue(Paragraphs, doc ? locale.toString(doc->document()->blockCount()) : QString());
+    setValue(Modified, !doc ? QString() : doc->isModified() ? tr("Yes") : tr("No"));
+}
+
+void DemoProperties::setValue(Row row, const QString& value)
+{
+    item(row, 1)->setText(value);
+    item(row, 1)->setToolTip(value);
+}
