@@ -6,7 +6,33 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QLocale>
+#include <QTextBlock>
+#include <QTextDocument>
 #include <QTimer>
+
+namespace {
+
+struct TextCounts
+{
+    int characters = 0;
+    int paragraphs = 0;
+};
+
+// As word processors count: characters with spaces but without paragraph
+// breaks, and only the paragraphs that hold some text (table cells too).
+TextCounts countText(const QTextDocument* document)
+{
+    TextCounts counts;
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        const QString text = block.text();
+        counts.characters += text.size();
+        if (!text.trimmed().isEmpty())
+            ++counts.paragraphs;
+    }
+    return counts;
+}
+
+} // namespace
 
 DemoProperties::DemoProperties(QWidget* parent)
     : QTableWidget(RowCount, 2, parent)
@@ -54,8 +80,9 @@ void DemoProperties::refresh()
                        : path.isEmpty() ? tr("Not saved")
                                         : QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
     setValue(Words, doc ? locale.toString(doc->wordCount()) : QString());
-    setValue(Characters, doc ? locale.toString(doc->document()->characterCount() - 1) : QString());
-    setValue(Paragraphs, doc ? locale.toString(doc->document()->blockCount()) : QString());
+    const TextCounts counts = doc ? countText(doc->document()) : TextCounts();
+    setValue(Characters, doc ? locale.toString(counts.characters) : QString());
+    setValue(Paragraphs, doc ? locale.toString(counts.paragraphs) : QString());
     setValue(Modified, !doc ? QString() : doc->isModified() ? tr("Yes") : tr("No"));
 }
 

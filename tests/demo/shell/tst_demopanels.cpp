@@ -171,14 +171,21 @@ void tst_DemoPanels::propertiesDescribeTheActiveDocument()
     QCOMPARE(value(m_properties, QStringLiteral("Location")), QStringLiteral("Not saved"));
     QCOMPARE(value(m_properties, QStringLiteral("Words")), QLocale().toString(welcome->wordCount()));
     QCOMPARE(value(m_properties, QStringLiteral("Characters")),
-             QLocale().toString(welcome->toPlainText().size()));
-    QCOMPARE(value(m_properties, QStringLiteral("Paragraphs")), QLocale().toString(welcome->document()->blockCount()));
+             QLocale().toString(welcome->toPlainText().remove(QLatin1Char('\n')).size()));
+    QCOMPARE(value(m_properties, QStringLiteral("Paragraphs")),
+             QLocale().toString(welcome->toPlainText().split(QLatin1Char('\n'), Qt::SkipEmptyParts).size()));
     QCOMPARE(value(m_properties, QStringLiteral("Modified")), QStringLiteral("No"));
 
-    newDocument(QStringLiteral("<p>one two three</p><p>four</p>"));
+    // Characters without the paragraph breaks; empty paragraphs do not count.
+    newDocument(QStringLiteral("<p>one two three</p><p></p><p>four</p>"));
     QTRY_COMPARE(value(m_properties, QStringLiteral("Words")), QStringLiteral("4"));
-    QCOMPARE(value(m_properties, QStringLiteral("Characters")), QStringLiteral("18"));
+    QCOMPARE(value(m_properties, QStringLiteral("Characters")), QStringLiteral("17"));
     QCOMPARE(value(m_properties, QStringLiteral("Paragraphs")), QStringLiteral("2"));
+
+    // A table's cells are paragraphs of their own.
+    DemoDocument* table = newDocument(QString());
+    table->insertTable(2, 2);
+    QTRY_COMPARE(value(m_properties, QStringLiteral("Paragraphs")), QStringLiteral("2"));
 }
 
 void tst_DemoPanels::propertiesFollowTypingAndSaving()
