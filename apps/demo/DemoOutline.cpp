@@ -1,9 +1,9 @@
 #include "DemoOutline.h"
 
 #include "DemoDocument.h"
+#include "DemoDocumentFollower.h"
 
 #include <QTextBlock>
-#include <QTimer>
 
 namespace {
 
@@ -14,37 +14,29 @@ const int LevelRole = Qt::UserRole + 1;
 
 DemoOutline::DemoOutline(QWidget* parent)
     : QTreeWidget(parent)
-    , m_refreshTimer(new QTimer(this))
+    , m_follower(new DemoDocumentFollower(this))
 {
     setObjectName(QStringLiteral("outline"));
     setHeaderHidden(true);
-    // Reading every block's format on each key would slow typing down.
-    m_refreshTimer->setSingleShot(true);
-    m_refreshTimer->setInterval(300);
-    connect(m_refreshTimer, &QTimer::timeout, this, &DemoOutline::refresh);
+    connect(m_follower, &DemoDocumentFollower::changed, this, &DemoOutline::refresh);
     connect(this, &QTreeWidget::itemClicked, this, &DemoOutline::goToHeading);
     connect(this, &QTreeWidget::itemActivated, this, &DemoOutline::goToHeading);
 }
 
 void DemoOutline::setDocument(DemoDocument* document)
 {
-    if (m_document)
-        disconnect(m_document, nullptr, m_refreshTimer, nullptr);
-    m_document = document;
-    if (document)
-        connect(document, &QTextEdit::textChanged, m_refreshTimer, qOverload<>(&QTimer::start));
-    m_refreshTimer->stop();
-    refresh();
+    m_follower->setDocument(document);
 }
 
 void DemoOutline::refresh()
 {
     clear();
-    if (!m_document)
+    DemoDocument* doc = m_follower->document();
+    if (!doc)
         return;
     // The nearest heading of a higher level is each heading's parent.
     QVector<QTreeWidgetItem*> openLevels;
-    for (QTextBlock block = m_document->document()->begin(); block.isValid(); block = block.next()) {
+    for (QTextBlock block = doc->document()->begin(); block.isValid(); block = block.next()) {
         const int level = block.blockFormat().headingLevel();
         const QString text = block.text().simplified();
         if (level <= 0 || text.isEmpty())
@@ -66,13 +58,14 @@ void DemoOutline::refresh()
 
 void DemoOutline::goToHeading(QTreeWidgetItem* item)
 {
-    if (!m_document || !item || !item->data(0, PositionRole).isValid())
+    DemoDocument* doc = m_follower->document();
+    if (!doc || !item || !item->data(0, PositionRole).isValid())
         return;
-    const QTextBlock block = m_document->document()->findBlock(item->data(0, PositionRole).toInt());
+    const QTextBlock block = doc->document()->findBlock(item->data(0, PositionRole).toInt());
     if (!block.isValid())
         return;
     QTextCursor cursor(block);
-    m_document->setTextCursor(cursor);
-    m_document->ensureCursorVisible();
-    m_document->setFocus(Qt::OtherFocusReason);
+    doc->setTextCursor(cursor);
+    doc->ensureCursorVisible();
+    doc->setFocus(Qt::OtherFocusReason);
 }

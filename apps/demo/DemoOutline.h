@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QPointer>
 #include <QTreeWidget>
 
 class DemoDocument;
-class QTimer;
+class DemoDocumentFollower;
 
 /// The Outline panel: the headings of the active document as a tree, by
 /// their levels. A click on a heading puts the cursor there. It follows the
@@ -23,6 +22,5 @@ private:
     void refresh();
     void goToHeading(QTreeWidgetItem* item);
 
-    QPointer<DemoDocument> m_document;
-    QTimer* m_refreshTimer;
+    DemoDocumentFollower* m_follower;
 };

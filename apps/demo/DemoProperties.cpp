@@ -1,6 +1,7 @@
 #include "DemoProperties.h"
 
 #include "DemoDocument.h"
+#include "DemoDocumentFollower.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -8,7 +9,6 @@
 #include <QLocale>
 #include <QTextBlock>
 #include <QTextDocument>
-#include <QTimer>
 
 namespace {
 
@@ -36,7 +36,7 @@ TextCounts countText(const QTextDocument* document)
 
 DemoProperties::DemoProperties(QWidget* parent)
     : QTableWidget(RowCount, 2, parent)
-    , m_refreshTimer(new QTimer(this))
+    , m_follower(new DemoDocumentFollower(this))
 {
     setObjectName(QStringLiteral("properties"));
     setHorizontalHeaderLabels({tr("Property"), tr("Value")});
@@ -49,30 +49,17 @@ DemoProperties::DemoProperties(QWidget* parent)
         setItem(row, 0, new QTableWidgetItem(names[row]));
         setItem(row, 1, new QTableWidgetItem);
     }
-    // Counting walks the whole text: wait for a pause in typing.
-    m_refreshTimer->setSingleShot(true);
-    m_refreshTimer->setInterval(300);
-    connect(m_refreshTimer, &QTimer::timeout, this, &DemoProperties::refresh);
+    connect(m_follower, &DemoDocumentFollower::changed, this, &DemoProperties::refresh);
 }
 
 void DemoProperties::setDocument(DemoDocument* document)
 {
-    if (m_document) {
-        disconnect(m_document, nullptr, this, nullptr);
-        disconnect(m_document, nullptr, m_refreshTimer, nullptr);
-    }
-    m_document = document;
-    if (document) {
-        connect(document, &QTextEdit::textChanged, m_refreshTimer, qOverload<>(&QTimer::start));
-        connect(document, &DemoDocument::titleChanged, this, &DemoProperties::refresh);
-    }
-    m_refreshTimer->stop();
-    refresh();
+    m_follower->setDocument(document);
 }
 
 void DemoProperties::refresh()
 {
-    DemoDocument* doc = m_document;
+    DemoDocument* doc = m_follower->document();
     const QLocale locale;
     const QString path = doc ? doc->filePath() : QString();
     setValue(Name, doc ? doc->title() : QString());

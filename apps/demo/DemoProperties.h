@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QPointer>
 #include <QTableWidget>
 
 class DemoDocument;
-class QTimer;
+class DemoDocumentFollower;
 
 /// The Properties panel: name, location, size and state of the active
 /// document, kept up to date as it is edited, saved and switched.
@@ -24,6 +23,5 @@ private:
     void refresh();
     void setValue(Row row, const QString& value);
 
-    QPointer<DemoDocument> m_document;
-    QTimer* m_refreshTimer;
+    DemoDocumentFollower* m_follower;
 };
