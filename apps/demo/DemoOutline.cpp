@@ -3,6 +3,8 @@
 #include "DemoDocument.h"
 #include "DemoDocumentFollower.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QScrollBar>
 #include <QTextBlock>
 
 namespace {
@@ -64,8 +66,11 @@ void DemoOutline::goToHeading(QTreeWidgetItem* item)
     const QTextBlock block = doc->document()->findBlock(item->data(0, PositionRole).toInt());
     if (!block.isValid())
         return;
-    QTextCursor cursor(block);
-    doc->setTextCursor(cursor);
+    doc->setTextCursor(QTextCursor(block));
+    // The heading at the top of the view, its section below it, as far as
+    // the text goes.
+    const QRectF area = doc->document()->documentLayout()->blockBoundingRect(block);
+    doc->verticalScrollBar()->setValue(qRound(area.top()));
     doc->ensureCursorVisible();
     doc->setFocus(Qt::OtherFocusReason);
 }

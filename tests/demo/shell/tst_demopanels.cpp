@@ -12,6 +12,7 @@
 #include "common/demostart.h"
 
 #include <QDir>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -45,8 +46,10 @@ QString value(const DemoProperties* table, const QString& name)
     return QStringLiteral("<no row %1>").arg(name);
 }
 
-const QString headingsHtml = QStringLiteral(
-    "<h1>Alpha</h1><p>one two</p><h2>Beta</h2><h3>Gamma</h3><p>three</p><h2>Delta</h2><h1>Epsilon</h1>");
+// Long enough to scroll in any window the tests open.
+const QString headingsHtml =
+    QStringLiteral("<h1>Alpha</h1><p>one two</p><h2>Beta</h2><h3>Gamma</h3><p>three</p><h2>Delta</h2><h1>Epsilon</h1>")
+    + QStringLiteral("<p>filler</p>").repeated(80);
 
 } // namespace
 
@@ -114,8 +117,11 @@ void tst_DemoPanels::outlineListsTheHeadingsByLevel()
 
 void tst_DemoPanels::aClickOnAHeadingPutsTheCursorThere()
 {
+    // Tall enough to show Delta without scrolling.
+    m_window->resize(1000, 900);
     DemoDocument* doc = newDocument(headingsHtml);
     QTRY_COMPARE(shape(m_outline), QStringLiteral("Alpha(Beta(Gamma) Delta) Epsilon"));
+    QVERIFY(doc->viewport()->height() > 300);
     QTreeWidgetItem* delta = m_outline->topLevelItem(0)->child(1);
     m_outline->scrollToItem(delta);
     QTest::mouseClick(m_outline->viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -123,6 +129,10 @@ void tst_DemoPanels::aClickOnAHeadingPutsTheCursorThere()
     QCOMPARE(doc->textCursor().block().text(), QStringLiteral("Delta"));
     QCOMPARE(doc->textCursor().positionInBlock(), 0);
     QTRY_VERIFY(doc->hasFocus());
+
+    // The heading stands at the top of the view, as far as the text allows.
+    QVERIFY(doc->verticalScrollBar()->value() > 0);
+    QVERIFY(doc->cursorRect().top() <= doc->document()->documentMargin());
 
     // From the keyboard too.
     m_outline->setFocus();
