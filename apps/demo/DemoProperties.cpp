@@ -60,17 +60,20 @@ void DemoProperties::setDocument(DemoDocument* document)
 void DemoProperties::refresh()
 {
     DemoDocument* doc = m_follower->document();
+    if (!doc) {
+        for (int row = 0; row < RowCount; ++row)
+            setValue(Row(row), QString());
+        return;
+    }
     const QLocale locale;
-    const QString path = doc ? doc->filePath() : QString();
-    setValue(Name, doc ? doc->title() : QString());
-    setValue(Location, !doc ? QString()
-                       : path.isEmpty() ? tr("Not saved")
-                                        : QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
-    setValue(Words, doc ? locale.toString(doc->wordCount()) : QString());
-    const TextCounts counts = doc ? countText(doc->document()) : TextCounts();
-    setValue(Characters, doc ? locale.toString(counts.characters) : QString());
-    setValue(Paragraphs, doc ? locale.toString(counts.paragraphs) : QString());
-    setValue(Modified, !doc ? QString() : doc->isModified() ? tr("Yes") : tr("No"));
+    const QString path = doc->filePath();
+    const TextCounts counts = countText(doc->document());
+    setValue(Name, doc->title());
+    setValue(Location, path.isEmpty() ? tr("Not saved") : QDir::toNativeSeparators(QFileInfo(path).absolutePath()));
+    setValue(Words, locale.toString(doc->wordCount()));
+    setValue(Characters, locale.toString(counts.characters));
+    setValue(Paragraphs, locale.toString(counts.paragraphs));
+    setValue(Modified, doc->isModified() ? tr("Yes") : tr("No"));
 }
 
 void DemoProperties::setValue(Row row, const QString& value)
