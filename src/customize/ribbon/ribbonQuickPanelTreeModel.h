@@ -284,6 +284,8 @@ public:
     /// end of @p destination, keeping their order. Nothing happens for rows
     /// that are not contiguous or for a destination among or under them.
     void moveRows(const QModelIndex& destination, const QModelIndexList& indexes);
+    // Qt's own moveRows() stays callable beside this one.
+    using QAbstractItemModel::moveRows;
     /// Calls the context menu hook of @p index's item between layout change
     /// notices.
     void showContextMenu(const QModelIndex& index, const QPoint& globalPos);

@@ -376,6 +376,8 @@ public:
     /// the end of @p destination, in the given order; nothing when the rows
     /// are not contiguous or @p destination already holds one of them.
     void moveRows(const QModelIndex& destination, const QModelIndexList& indexes);
+    // Qt's own moveRows() stays callable beside this one.
+    using QAbstractItemModel::moveRows;
     /// Lets the item of @p index show its context menu at @p globalPos.
     void showItemContextMenu(const QModelIndex& index, const QPoint& globalPos);
     /// Emits dataChanged() for each index of @p indexes, in order.
