@@ -14,9 +14,6 @@ using namespace Qtitan;
 
 namespace {
 
-// How close to the window's edges a press resizes the window.
-const int Border = 5;
-
 class ClosableWindow : public RibbonMainWindow
 {
 public:
